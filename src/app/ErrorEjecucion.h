@@ -1,0 +1,28 @@
+// Run-time errors that the program traps or ignores, carrying the classic
+// run-time error number so that messages can name it ("ERROR CTA53", ...).
+#pragma once
+#include <stdexcept>
+#include <string>
+
+namespace vedrano {
+
+enum CodigoError : int {
+    ErrArgumentoInvalido = 5,   // invalid procedure call or argument
+    ErrDesbordamiento = 6,      // overflow
+    ErrSubindice = 9,           // subscript out of range
+    ErrDivisionCero = 11,       // division by zero
+    ErrNombreArchivo = 52,      // bad file name or number
+    ErrArchivoNoExiste = 53,    // file not found
+};
+
+class ErrorEjecucion : public std::runtime_error {
+public:
+    explicit ErrorEjecucion(int numero)
+        : std::runtime_error("error de ejecución " + std::to_string(numero)), numero_(numero) {}
+    int numero() const noexcept { return numero_; }
+
+private:
+    int numero_;
+};
+
+}  // namespace vedrano

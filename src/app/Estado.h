@@ -1,0 +1,117 @@
+// The application state: one record of the instant, the place, the view,
+// the levels, pointing and interface flags. The program owns one instance
+// and hands it by reference; tests and tools make their own. A fresh record
+// holds the program's defaults (those used when no configuration is read).
+#pragma once
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace vedrano {
+
+// Results of the solar-system computations for one body (indices 1..11):
+// ecliptic longitude and equatorial place in radians, the direction as a
+// 32-bit unit vector and its projected screen point.
+struct PosicionCuerpo {
+    double LongGeo = 0, AscRecta = 0, Declinacion = 0;
+    float x = 0, y = 0, z = 0;
+    float X = 0, Y = 0, Z = 0;
+};
+
+// The four date fields and the time field shown for one kind of time.
+struct CamposFecha {
+    std::string Dia, Mes, Ano, Hora;
+};
+
+// Sines and cosines derived from the state, refreshed whenever the angles
+// they come from change, so that per-object rotations need no trigonometry.
+struct DerivadosRotacion {
+    double zeta = 0, z = 0, theta = 0;  // angles of the cached precession matrix
+    bool precesionLista = false;
+    double p[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
+    double sidereo = 0, latitud = 0;  // angles of the cached horizon rotation
+    bool horizonteListo = false;
+    double cs = 1, ss = 0, cf = 1, sf = 0;
+    double giro = 0, elevacion = 0;  // angles of the cached view rotation
+    bool vistaLista = false;
+    double cc = 1, sc = 0, cd = 1, sd = 0;
+};
+
+struct Estado {
+    // Time.
+    double FechaJuliana = 2482294.0;  // 9 March 2084, 12:00 UT
+    float ZonaHoraria = 0.0f;
+    bool HorarioVerano = false;
+    int16_t FormatoHora = 1;
+    int16_t PasoUnidad = 1;
+    int16_t PasoCantidad = 1;
+    double PasoDias = 1.0 / 1440.0;
+    int16_t FecAno = 0, FecMes = 0, FecDia = 0, FecHora = 0, FecMinuto = 0;
+    double FecFraccion = 0;
+    bool TiempoCambiado = false;
+    std::string TextoFecha, TextoHora;     // left by TextoFechaHora
+    std::array<CamposFecha, 2> Fechas;     // 0 universal, 1 local (MuestraFechas)
+    std::string TextoDiaJuliano;           // the Julian-day field
+    bool CampoHorarioVerano = false;       // the daylight-saving switch as drawn
+
+    // Place.
+    int16_t IndiceLugar = 95;
+    double Longitud = 0.0829029977321625;  // radians, west positive
+    double Latitud = 0.640890002250671;    // radians, north positive
+    std::string TextoLugar;
+
+    // Sky quantities derived from time and place.
+    double TiempoSidereo = 0;
+    bool Precesion = false;
+    double PrecZeta = 0, PrecZ = 0, PrecTheta = 0;
+    double SolX = 0, SolZ = 0;
+    std::array<PosicionCuerpo, 12> Planetas;  // index 3 Earth (the Sun's results), 10 Sun, 11 Moon
+
+    // View.
+    double Direccion = 3.1415926536;
+    double Elevacion = 0.785398852000001;
+    float Zoom = 2.0f;
+    int16_t Orientacion = 1;
+    double DireccionGirada = 0;
+    float Umbral = 0;
+    // The user scale of the sky picture, as read back after being set.
+    float EscalaIzquierda = 0, EscalaSuperior = 0, EscalaAncho = 0, EscalaAlto = 0;
+
+    // Star and constellation levels and identification choices.
+    int16_t NivelEstrellas = 1;
+    int16_t NivelConstelaciones = 1;
+    int16_t IdEstrellas = 0, IdConstelaciones = 0, IdMessier = 0;
+
+    // Pointing.
+    double ObjetivoAR = 0, ObjetivoDEC = 0;
+    float CursorAltitud = 0, CursorAzimut = 0;
+    bool PanelCursor = false, Marcar = false, MarcaVisible = false, ClickArmado = false;
+
+    // Interface flags.
+    bool Sonido = false, TiempoReal = false, AnimarTrasCambio = false;
+    int16_t Velocidad = 50;
+    bool Sujecion = false, Enganche = false, SujecionSpin = false;
+    bool Cambiado = false, RedibujoPermitido = true, SalidaConfirmada = false;
+    int16_t CursorActual = 21;
+    int16_t ContadorTiempoReal = 0;
+    int16_t FilaPulsador = 0;
+    int16_t RespuestaMensaje = 0;  // 0 = Cancel
+
+    // Folders.
+    std::string DirPrograma, DirArchivo, DirDatos;
+    bool SoloLectura = false;
+    static constexpr const char* SaltoLinea = "\r\n";
+
+    // Scratch results of the angle texts.
+    std::string NombreRumbo;
+    int16_t GradosEnteros = 0;
+    double GradosAux = 0;
+    int16_t GradosLongitud = 0;
+
+    // The shared 16-bit loop counter.
+    int16_t Contador = 0;
+
+    mutable DerivadosRotacion Derivados;
+};
+
+}  // namespace vedrano

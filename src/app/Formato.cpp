@@ -1,0 +1,159 @@
+#include "app/Formato.h"
+
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+namespace vedrano {
+
+namespace {
+
+bool SoloArrobas(std::string_view p) {
+    if (p.empty()) return false;
+    for (char c : p)
+        if (c != '@') return false;
+    return true;
+}
+
+// Decimal digits of |valor| rounded half away from zero to `decimales`
+// places, taken from its 15-significant-digit text as the run-time does.
+void Redondea(double valor, int decimales, std::string& entera, std::string& fraccion) {
+    char buf[64];
+    std::snprintf(buf, sizeof buf, "%.14e", std::fabs(valor));
+    // buf: d.dddddddddddddde±XX
+    std::string mantisa;
+    mantisa += buf[0];
+    for (int i = 2; i < 16; ++i) mantisa += buf[i];
+    int exponente = std::atoi(buf + 17);
+    // Digits with the point after position (exponente + 1).
+    int punto = exponente + 1;
+    std::string digitos = mantisa;
+    if (punto <= 0) {
+        digitos = std::string(static_cast<std::size_t>(-punto + 1), '0') + digitos;
+        punto = 1;
+    }
+    if (static_cast<int>(digitos.size()) < punto + decimales + 1)
+        digitos += std::string(static_cast<std::size_t>(punto + decimales + 1 - digitos.size()), '0');
+    // Keep punto + decimales digits; round on the next one.
+    std::string guardados = digitos.substr(0, static_cast<std::size_t>(punto + decimales));
+    if (digitos[static_cast<std::size_t>(punto + decimales)] >= '5') {
+        int i = static_cast<int>(guardados.size()) - 1;
+        while (i >= 0) {
+            if (guardados[static_cast<std::size_t>(i)] == '9') {
+                guardados[static_cast<std::size_t>(i)] = '0';
+                --i;
+            } else {
+                ++guardados[static_cast<std::size_t>(i)];
+                break;
+            }
+        }
+        if (i < 0) {
+            guardados = "1" + guardados;
+            ++punto;
+        }
+    }
+    entera = guardados.substr(0, static_cast<std::size_t>(punto));
+    fraccion = guardados.substr(static_cast<std::size_t>(punto));
+    std::size_t k = 0;
+    while (k < entera.size() && entera[k] == '0') ++k;
+    entera = entera.substr(k);
+}
+
+std::string FormatoSeccion(double valor, std::string_view p, bool signo) {
+    std::size_t punto = p.find('.');
+    std::string_view pEntera = p.substr(0, punto);
+    std::string_view pFraccion = punto == std::string_view::npos ? std::string_view{} : p.substr(punto + 1);
+    int decimales = 0;
+    for (char c : pFraccion)
+        if (c == '0' || c == '#') ++decimales;
+    std::string entera, fraccion;
+    Redondea(valor, decimales, entera, fraccion);
+
+    // Integer part, filled from the right; surplus digits go to the leftmost place.
+    std::vector<std::size_t> lugares;
+    for (std::size_t i = 0; i < pEntera.size(); ++i)
+        if (pEntera[i] == '0' || pEntera[i] == '#') lugares.push_back(i);
+    std::vector<std::string> trozo(pEntera.size());
+    int d = static_cast<int>(entera.size()) - 1;
+    for (std::size_t k = lugares.size(); k-- > 0;) {
+        std::size_t i = lugares[k];
+        if (k == 0 && d >= 0) {
+            trozo[i] = entera.substr(0, static_cast<std::size_t>(d + 1));
+            d = -1;
+        } else if (d >= 0) {
+            trozo[i] = entera[static_cast<std::size_t>(d--)];
+        } else if (pEntera[i] == '0') {
+            trozo[i] = "0";
+        }
+    }
+    std::string r;
+    for (std::size_t i = 0; i < pEntera.size(); ++i)
+        r += (pEntera[i] == '0' || pEntera[i] == '#') ? trozo[i] : std::string(1, pEntera[i]);
+    if (lugares.empty() && !entera.empty()) r += entera;
+    if (punto != std::string_view::npos) {
+        r += '.';
+        std::size_t f = 0;
+        for (char c : pFraccion) {
+            if (c == '0' || c == '#')
+                r += fraccion[f++];
+            else
+                r += c;
+        }
+    }
+    bool nulo = entera.empty() && fraccion.find_first_not_of('0') == std::string::npos;
+    if (signo && !nulo) {
+        // The sign goes before the first digit or literal of the result.
+        r = "-" + r;
+    }
+    return r;
+}
+
+}  // namespace
+
+std::string CStr(double valor) {
+    char buf[64];
+    std::snprintf(buf, sizeof buf, "%.15G", valor);
+    std::string s = buf;
+    std::size_t e = s.find('E');
+    std::string mant = e == std::string::npos ? s : s.substr(0, e);
+    std::string exp = e == std::string::npos ? "" : s.substr(e);
+    if (mant.find('.') != std::string::npos) {
+        while (!mant.empty() && mant.back() == '0') mant.pop_back();
+        if (!mant.empty() && mant.back() == '.') mant.pop_back();
+    }
+    if (!exp.empty()) {
+        // E+020 -> E+20: the run-time writes at least two exponent digits.
+        char sig = exp[1];
+        std::string dig = exp.substr(2);
+        while (dig.size() > 2 && dig[0] == '0') dig.erase(0, 1);
+        exp = std::string("E") + sig + dig;
+    }
+    if (mant == "-0") mant = "0";
+    return mant + exp;
+}
+
+std::string Str(double valor) {
+    std::string s = CStr(valor);
+    return s[0] == '-' ? s : " " + s;
+}
+
+std::string FormatoTexto(std::string_view texto, std::string_view picture) {
+    std::size_t ancho = 0;
+    for (char c : picture)
+        if (c == '@') ++ancho;
+    if (texto.size() >= ancho) return std::string(texto);
+    return std::string(ancho - texto.size(), ' ') + std::string(texto);
+}
+
+std::string Formato(double valor, std::string_view picture) {
+    if (SoloArrobas(picture)) return FormatoTexto(CStr(valor), picture);
+    std::size_t pc = picture.find(';');
+    if (pc != std::string_view::npos) {
+        if (valor < 0) return FormatoSeccion(valor, picture.substr(pc + 1), false);
+        return FormatoSeccion(valor, picture.substr(0, pc), false);
+    }
+    return FormatoSeccion(valor, picture, valor < 0);
+}
+
+}  // namespace vedrano

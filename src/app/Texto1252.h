@@ -1,0 +1,21 @@
+// Program text is single-byte Windows-1252, as the catalogue files hold it,
+// so that fixed widths and character positions stay what they are. It turns
+// into Unicode (UTF-8) only where it is shown, printed or written out.
+#pragma once
+#include <string>
+#include <string_view>
+
+namespace vedrano {
+
+// UTF-8 to Windows-1252; characters the code page lacks become '?'.
+std::string A1252(std::string_view utf8);
+// Windows-1252 to UTF-8.
+std::string DesdeA1252(std::string_view cp1252);
+
+// Mid$(texto, inicio, largo) with 1-based start: a start below 1 is an
+// invalid procedure call (error 5); past the end gives an empty text.
+std::string Mid(std::string_view texto, long inicio, long largo);
+std::string Right(std::string_view texto, long largo);
+std::string Left(std::string_view texto, long largo);
+
+}  // namespace vedrano

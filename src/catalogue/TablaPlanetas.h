@@ -1,0 +1,38 @@
+// The solar-system table: orbital elements of the planets (indices 1..9,
+// 3 being the Earth), the Sun (10) and the Moon (11); index 0 stays empty.
+// Read from "VDRDATF.DAT", records 2 to 12 of 107 bytes: a 3-character code
+// and a 104-byte numeric block of seven Doubles (the elements below), three
+// Doubles and six Singles of result space that the file leaves at zero.
+#pragma once
+#include <array>
+#include <string>
+
+#include "catalogue/Registros.h"
+
+namespace vedrano {
+
+struct ElementosPlaneta {
+    CadenaFija<3> Codigo;
+    double MovDiario = 0;      // mean daily motion n, radians per day
+    double LongEpoca = 0;      // mean longitude at the time origin, radians
+    double LongPerihelio = 0;  // longitude of perihelion, radians
+    double Excentricidad = 0;
+    double SemiejeMayor = 0;   // astronomical units
+    double Inclinacion = 0;    // radians
+    double LongNodo = 0;       // longitude of the ascending node, radians
+};
+
+using TablaPlanetas = std::array<ElementosPlaneta, 12>;
+
+inline constexpr int LARGO_REGISTRO_PLANETA = 107;
+// The Julian day plus this offset is the time of the elements' origin.
+inline constexpr double ORIGEN_ELEMENTOS = 31739.5;
+
+// Decodes one 107-byte record.
+ElementosPlaneta DecodificaPlaneta(std::string_view registro);
+
+// Reads records 2 to 12 of the file into indices 1 to 11. A missing file
+// raises ErrorEjecucion(53); records past the end of the file read blank.
+void LeeTablaPlanetas(const std::string& fichero, TablaPlanetas& tabla);
+
+}  // namespace vedrano
