@@ -1,0 +1,102 @@
+#include "astro/TextosAngulo.h"
+
+#include <cmath>
+
+#include "app/Aritmetica.h"
+#include "app/Constantes.h"
+#include "app/Formato.h"
+#include "app/Texto1252.h"
+
+namespace vedrano {
+
+namespace {
+
+constexpr const char* RUMBOS = "N NEE SES SOO NO";
+constexpr char SIGNO_GRADO = '\xB0';
+
+}  // namespace
+
+std::string TextoSexagesimal(double angulo, Estado* e) {
+    std::string signo = angulo < 0 ? "-" : "";
+    // The 5e-7 rad lifts values that lie a hair below a whole second.
+    double g = (std::fabs(angulo) + 5e-7) * RAD_A_GRADOS;
+    if (g >= 360) g = g - 360;
+    double D = Int(g);
+    double M = Int((g - D) * 60);
+    double S = Int(((g - D) - M / 60) * 3600);
+    if (e) e->GradosAux = D;
+    return signo + Formato(D, "@@@") + SIGNO_GRADO + Formato(M, " 00") + "'" + Formato(S, " 00") + "\"";
+}
+
+std::string TextoLatitud(double lat, Estado* e) {
+    const char* sufijo = lat < 0 ? " S" : " N";
+    return Right(TextoSexagesimal(std::fabs(lat), e), 11) + sufijo;
+}
+
+std::string TextoLongitud(double lon, Estado* e) {
+    const char* sufijo = " O";
+    if (lon > PI) {
+        lon = DOS_PI - lon;
+        sufijo = " E";
+    }
+    Estado local;
+    Estado* destino = e ? e : &local;
+    std::string texto = TextoSexagesimal(lon, destino) + sufijo;
+    destino->GradosLongitud = CInt(destino->GradosAux);
+    return texto;
+}
+
+std::string TextoHoras(float ar, Estado* e) {
+    float g = ASingle(ar * RAD_A_GRADOS);
+    double H = Int(g / 15.0);
+    double M = Int((g - 15 * H) * 4);
+    double S = std::nearbyint((g - 15 * H - M / 4) * 240);
+    if (e) e->GradosAux = H;
+    if (S > 59) {
+        S = 0;
+        M = M + 1;
+    }
+    if (M > 59) {
+        M = 0;
+        H = H + 1;
+    }
+    if (H > 23) H = 0;
+    return Formato(H, "@@@") + "h" + Formato(M, " 00") + "m" + Formato(S, " 00") + "s";
+}
+
+std::string TextoDireccion(double az, Estado* e) {
+    float a = ASingle(az + PI / 8);
+    if (a >= 6.2831855f) a = 0;
+    long sector = static_cast<long>(Int(a * RAD_A_GRADOS / 45)) + 1;
+    std::string rumbo = Mid(RUMBOS, 2 * sector - 1, 2);
+    int16_t grados = CInt(az * RAD_A_GRADOS);
+    if (e) {
+        e->NombreRumbo = rumbo;
+        e->GradosEnteros = grados;
+    }
+    return Formato(grados, "@@@") + SIGNO_GRADO + " " + rumbo;
+}
+
+std::string TextoGrados(double angulo, Estado* e) {
+    int16_t grados = CInt(angulo * RAD_A_GRADOS);
+    if (e) e->GradosEnteros = grados;
+    return Formato(grados, "@@") + SIGNO_GRADO;
+}
+
+double LeeAngulo(std::string_view texto) {
+    std::string t(texto);
+    char ultimo = t.empty() ? ' ' : static_cast<char>(std::toupper(static_cast<unsigned char>(t.back())));
+    double r;
+    if (ultimo == 'E' || ultimo == 'O') {
+        double grados = Val(Mid(t, 1, 3)), minutos = Val(Mid(t, 6, 2)), segundos = Val(Mid(t, 10, 2));
+        r = (grados * 3600 + minutos * 60 + segundos) * SEGUNDO_ARCO_LECTURA;
+        if (ultimo == 'E') r = DOS_PI - r;
+    } else {
+        double grados = Val(Mid(t, 1, 2)), minutos = Val(Mid(t, 5, 2)), segundos = Val(Mid(t, 9, 2));
+        r = (grados * 3600 + minutos * 60 + segundos) * SEGUNDO_ARCO_LECTURA;
+        if (ultimo == 'S') r = -r;
+    }
+    return r;
+}
+
+}  // namespace vedrano

@@ -1,0 +1,87 @@
+#include "astro/Tiempo.h"
+
+#include "app/Aritmetica.h"
+#include "app/Formato.h"
+#include "app/TablasFijas.h"
+#include "astro/Calendario.h"
+#include "astro/Precesion.h"
+#include "astro/Sidereo.h"
+#include "platform/Reloj.h"
+
+namespace vedrano {
+
+namespace {
+
+double Adelanto(const Estado& e) { return e.HorarioVerano ? 1.0 / 24.0 : 0.0; }
+
+}  // namespace
+
+void ActualizaTiempo(Estado& e, const TablaPlanetas& planetas) {
+    MuestraFechas(e);
+    HallaTiempoSidereo(e, planetas);
+    if (e.Precesion) HallaPrecesion(e);
+}
+
+void FijaPaso(Estado& e, int signo) {
+    if (e.PasoUnidad < 0 || e.PasoUnidad > 12) throw ErrorEjecucion(ErrSubindice);
+    e.PasoDias = signo * (e.PasoCantidad * Tablas().LongUnidad[static_cast<std::size_t>(e.PasoUnidad)]);
+}
+
+void AvanzaTiempo(Estado& e, const TablaPlanetas& planetas) {
+    e.TiempoCambiado = false;
+    if (e.PasoUnidad >= 1 && e.PasoUnidad <= 9) {
+        e.FechaJuliana = e.FechaJuliana + e.PasoDias;
+    } else if (e.PasoUnidad >= 10 && e.PasoUnidad <= 12) {
+        JulianaAFecha(e, e.FechaJuliana);
+        double s = e.PasoCantidad * Tablas().LongUnidad[static_cast<std::size_t>(e.PasoUnidad)];
+        if (e.PasoDias < 0) s = -s;
+        // Plain arithmetic on the historical year: a result of 0 reads as 1 AD.
+        e.FecAno = A16(e.FecAno + int64_t{CInt(s)});
+        e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(e));
+    }
+    ActualizaTiempo(e, planetas);
+    e.TiempoCambiado = true;
+}
+
+void TiempoDesdeReloj(Estado& e, const TablaPlanetas& planetas, double fechaHoraLocal) {
+    e.FechaJuliana = (fechaHoraLocal + 2415018.5) - e.ZonaHoraria / 24.0 - Adelanto(e);
+    JulianaAFecha(e, e.FechaJuliana);
+    e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(e));
+    ActualizaTiempo(e, planetas);
+}
+
+void TiempoActual(Estado& e, const TablaPlanetas& planetas) {
+    TiempoDesdeReloj(e, planetas, plataforma::FechaHoraLocal());
+}
+
+void TextoFechaHora(Estado& e, double jd) {
+    JulianaAFecha(e, jd);
+    e.TextoFecha = Formato(e.FecDia, "00") + " / " + Formato(e.FecMes, "00") + " / " + Formato(e.FecAno, "@@@@@");
+    if (e.FormatoHora == 1) {
+        e.TextoHora = Formato(e.FecHora, "00") + ":" + Formato(e.FecMinuto, "00");
+        return;
+    }
+    int hora = e.FecHora;
+    const char* sufijo = " AM";
+    if (hora > 11) {
+        hora -= 12;
+        sufijo = " PM";
+    }
+    e.TextoHora = Formato(hora, "00") + ":" + Formato(e.FecMinuto, "00") + sufijo;
+}
+
+void MuestraFechas(Estado& e) {
+    for (int k = 0; k < 2; ++k) {
+        double jd = k == 0 ? e.FechaJuliana : e.FechaJuliana + Adelanto(e) + e.ZonaHoraria / 24.0;
+        TextoFechaHora(e, jd);
+        CamposFecha& f = e.Fechas[static_cast<std::size_t>(k)];
+        f.Hora = e.TextoHora;
+        f.Dia = Formato(e.FecDia, "00");
+        f.Mes = Formato(e.FecMes, "00");
+        f.Ano = Formato(e.FecAno, "#####");
+    }
+    e.TextoDiaJuliano = Formato(e.FechaJuliana, "#######0.000000");
+    e.CampoHorarioVerano = e.HorarioVerano;
+}
+
+}  // namespace vedrano

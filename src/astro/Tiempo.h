@@ -1,0 +1,36 @@
+// The current instant: its refresh after every change, the time step of
+// animation and real-time motion, the clock, and the date and time texts.
+#pragma once
+
+#include "app/Estado.h"
+#include "catalogue/TablaPlanetas.h"
+
+namespace vedrano {
+
+// The refresh after any change of FechaJuliana: date texts, sidereal time
+// and the Sun, and (precession on) the precession angles.
+void ActualizaTiempo(Estado& e, const TablaPlanetas& planetas);
+
+// One step of PasoCantidad units of PasoUnidad in the direction of the sign
+// of PasoDias. Units 10..12 move the calendar year and keep day, month and
+// time (29 February landing in a common year becomes 1 March).
+void AvanzaTiempo(Estado& e, const TablaPlanetas& planetas);
+
+// Sets FechaJuliana to the computer's clock, taken as local civil time of
+// the observer's zone, cut to whole minutes.
+void TiempoActual(Estado& e, const TablaPlanetas& planetas);
+// The same from a given local clock reading (days since 30 December 1899).
+void TiempoDesdeReloj(Estado& e, const TablaPlanetas& planetas, double fechaHoraLocal);
+
+// Leaves the display texts of a Julian day in TextoFecha ("dd / mm / yyyyy")
+// and TextoHora ("hh:mm", or with " AM"/" PM" when FormatoHora is not 1).
+void TextoFechaHora(Estado& e, double jd);
+
+// The texts of the date, time and Julian-day fields for universal (0) and
+// local (1) time.
+void MuestraFechas(Estado& e);
+
+// PasoDias of the state's unit and count, with the given sign (1 or -1).
+void FijaPaso(Estado& e, int signo);
+
+}  // namespace vedrano

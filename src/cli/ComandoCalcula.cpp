@@ -1,0 +1,385 @@
+#include "cli/ComandoCalcula.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <functional>
+#include <iostream>
+#include <map>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "app/ErrorEjecucion.h"
+#include "app/Texto1252.h"
+#include "astro/Calendario.h"
+#include "astro/Coordenadas.h"
+#include "astro/Planetas.h"
+#include "astro/Precesion.h"
+#include "astro/Sidereo.h"
+#include "astro/TextosAngulo.h"
+#include "astro/Tiempo.h"
+#include "catalogue/TablaPlanetas.h"
+#include "cli/CarpetaDatos.h"
+#include "sky/proyeccion/Proyeccion.h"
+
+namespace vedrano {
+
+namespace {
+
+// A malformed line: reported as "ERROR sintaxis: " and the reason.
+struct ErrorSintaxis {
+    std::string motivo;
+};
+
+struct Token {
+    std::string texto;
+    bool entrecomillado = false;
+};
+
+std::vector<Token> Trocea(std::string_view linea) {
+    std::vector<Token> tokens;
+    std::size_t i = 0;
+    while (i < linea.size()) {
+        char c = linea[i];
+        if (c == ' ' || c == '\t' || c == '\r') {
+            ++i;
+            continue;
+        }
+        Token t;
+        if (c == '"') {
+            t.entrecomillado = true;
+            ++i;
+            bool cerrado = false;
+            while (i < linea.size()) {
+                if (linea[i] == '"') {
+                    if (i + 1 < linea.size() && linea[i + 1] == '"') {
+                        t.texto += '"';
+                        i += 2;
+                        continue;
+                    }
+                    ++i;
+                    cerrado = true;
+                    break;
+                }
+                t.texto += linea[i++];
+            }
+            if (!cerrado) throw ErrorSintaxis{"falta la comilla de cierre"};
+            if (i < linea.size() && linea[i] != ' ' && linea[i] != '\t' && linea[i] != '\r')
+                throw ErrorSintaxis{"texto mal cerrado"};
+        } else {
+            while (i < linea.size() && linea[i] != ' ' && linea[i] != '\t' && linea[i] != '\r')
+                t.texto += linea[i++];
+        }
+        tokens.push_back(std::move(t));
+    }
+    return tokens;
+}
+
+// The arguments of one operation, read in order with their types.
+class Argumentos {
+public:
+    Argumentos(std::vector<Token> t, std::size_t esperados) : t_(std::move(t)) {
+        if (t_.size() != esperados)
+            throw ErrorSintaxis{"se esperaban " + std::to_string(esperados) + " argumentos y hay " +
+                                std::to_string(t_.size())};
+    }
+    double D() {
+        const Token& t = Siguiente();
+        double v = 0;
+        const char* fin = t.texto.data() + t.texto.size();
+        auto [p, ec] = std::from_chars(t.texto.data(), fin, v);
+        if (t.entrecomillado || ec != std::errc() || p != fin || !std::isfinite(v))
+            throw ErrorSintaxis{"número no válido: " + t.texto};
+        return v;
+    }
+    float F() {
+        double v = D();
+        float f = static_cast<float>(v);
+        if (std::isinf(f)) throw ErrorEjecucion(ErrDesbordamiento);
+        return f;
+    }
+    int16_t I() {
+        double v = D();
+        if (v != std::floor(v)) throw ErrorSintaxis{"se esperaba un entero: " + t_[i_ - 1].texto};
+        if (v < -32768 || v > 32767) throw ErrorEjecucion(ErrDesbordamiento);
+        return static_cast<int16_t>(v);
+    }
+    bool B() {
+        int16_t v = I();
+        if (v != 0 && v != -1) throw ErrorSintaxis{"un valor lógico es -1 o 0"};
+        return v == -1;
+    }
+    std::string T() {
+        const Token& t = Siguiente();
+        if (!t.entrecomillado) throw ErrorSintaxis{"se esperaba un texto entre comillas"};
+        return A1252(t.texto);
+    }
+
+private:
+    const Token& Siguiente() { return t_[i_++]; }
+    std::vector<Token> t_;
+    std::size_t i_ = 0;
+};
+
+// One result line, built piece by piece.
+class Resultado {
+public:
+    Resultado& D(double v) { return Pon("%.17g", v); }
+    Resultado& F(float v) { return Pon("%.9g", static_cast<double>(v)); }
+    Resultado& I(long v) {
+        Separa();
+        linea_ += std::to_string(v);
+        return *this;
+    }
+    Resultado& B(bool v) { return I(v ? -1 : 0); }
+    Resultado& T(std::string_view cp1252) {
+        Separa();
+        linea_ += '"';
+        for (char c : DesdeA1252(cp1252)) {
+            if (c == '"') linea_ += '"';
+            linea_ += c;
+        }
+        linea_ += '"';
+        return *this;
+    }
+    const std::string& linea() const { return linea_; }
+
+private:
+    Resultado& Pon(const char* formato, double v) {
+        char buf[48];
+        std::snprintf(buf, sizeof buf, formato, v);
+        Separa();
+        linea_ += buf;
+        return *this;
+    }
+    void Separa() {
+        if (!linea_.empty()) linea_ += ' ';
+    }
+    std::string linea_;
+};
+
+class Calculadora {
+public:
+    explicit Calculadora(std::string dirDatos) : dirDatos_(std::move(dirDatos)) { Registra(); }
+
+    std::string Ejecuta(std::string_view linea) {
+        try {
+            std::vector<Token> tokens = Trocea(linea);
+            if (tokens.front().entrecomillado) throw ErrorSintaxis{"falta el nombre de la operación"};
+            std::string nombre = tokens.front().texto;
+            auto op = operaciones_.find(nombre);
+            if (op == operaciones_.end()) throw ErrorSintaxis{"operación desconocida: " + nombre};
+            tokens.erase(tokens.begin());
+            Argumentos args(std::move(tokens), op->second.aridad);
+            Estado e;  // every line starts from a fresh state
+            Resultado r;
+            op->second.ejecuta(args, e, r);
+            return r.linea();
+        } catch (const ErrorSintaxis& s) {
+            return "ERROR sintaxis: " + s.motivo;
+        } catch (const ErrorEjecucion& err) {
+            return "ERROR " + std::to_string(err.numero());
+        }
+    }
+
+private:
+    struct Operacion {
+        std::size_t aridad;
+        std::function<void(Argumentos&, Estado&, Resultado&)> ejecuta;
+    };
+
+    const TablaPlanetas& Planetas() {
+        if (!cargada_) {
+            // A missing file is reported on every line that needs it.
+            LeeTablaPlanetas(dirDatos_ + "VDRDATF.DAT", planetas_);
+            cargada_ = true;
+        }
+        return planetas_;
+    }
+
+    void Registra() {
+        auto& o = operaciones_;
+        o["EsBisiesto"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.B(EsBisiesto(a.I())); }};
+        o["FechaAJuliana"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.D(FechaAJuliana(a.T())); }};
+        o["ArmaCadenaFecha"] = {5, [](Argumentos& a, Estado& e, Resultado& r) {
+            e.FecAno = a.I();
+            e.FecMes = a.I();
+            e.FecDia = a.I();
+            e.FecHora = a.I();
+            e.FecMinuto = a.I();
+            r.T(ArmaCadenaFecha(e));
+        }};
+        o["JulianaAFecha"] = {1, [](Argumentos& a, Estado& e, Resultado& r) {
+            JulianaAFecha(e, a.D());
+            r.I(e.FecAno).I(e.FecMes).I(e.FecDia).I(e.FecHora).I(e.FecMinuto).D(e.FecFraccion);
+        }};
+        o["TextoFechaHora"] = {2, [](Argumentos& a, Estado& e, Resultado& r) {
+            double jd = a.D();
+            e.FormatoHora = a.I();
+            TextoFechaHora(e, jd);
+            r.T(e.TextoFecha).T(e.TextoHora);
+        }};
+        o["AvanzaTiempo"] = {4, [this](Argumentos& a, Estado& e, Resultado& r) {
+            e.FechaJuliana = a.D();
+            e.PasoUnidad = a.I();
+            e.PasoCantidad = a.I();
+            int16_t signo = a.I();
+            if (signo != 1 && signo != -1) throw ErrorSintaxis{"el signo es 1 o -1"};
+            FijaPaso(e, signo);
+            // The step itself needs no elements; the refresh after it runs
+            // on an empty table.
+            AvanzaTiempo(e, vacia_);
+            r.D(e.FechaJuliana);
+        }};
+        o["HallaTiempoSidereo"] = {4, [this](Argumentos& a, Estado& e, Resultado& r) {
+            e.FechaJuliana = a.D();
+            e.Longitud = a.D();
+            e.ZonaHoraria = a.F();
+            e.HorarioVerano = a.B();
+            HallaTiempoSidereo(e, Planetas());
+            r.D(e.TiempoSidereo);
+        }};
+        o["HallaSol"] = {1, [this](Argumentos& a, Estado& e, Resultado& r) {
+            e.FechaJuliana = a.D();
+            HallaSol(e, Planetas());
+            const PosicionCuerpo& t = e.Planetas[3];
+            r.D(t.LongGeo).D(t.AscRecta).D(t.Declinacion).F(t.x).F(t.y).F(t.z).D(e.SolX).D(e.SolZ);
+        }};
+        o["HallaSolAparente"] = {1, [this](Argumentos& a, Estado& e, Resultado& r) {
+            e.FechaJuliana = a.D();
+            HallaSol(e, Planetas());
+            HallaSolAparente(e);
+            const PosicionCuerpo& s = e.Planetas[10];
+            r.D(s.AscRecta).D(s.Declinacion).F(s.x).F(s.y).F(s.z);
+        }};
+        o["HallaPlaneta"] = {2, [this](Argumentos& a, Estado& e, Resultado& r) {
+            int16_t indice = a.I();
+            e.FechaJuliana = a.D();
+            const TablaPlanetas& t = Planetas();
+            HallaSol(e, t);
+            HallaPlaneta(e, t, indice);
+            const PosicionCuerpo& p = e.Planetas[static_cast<std::size_t>(indice)];
+            r.D(p.LongGeo).D(p.AscRecta).D(p.Declinacion);
+        }};
+        o["HallaLuna"] = {2, [](Argumentos& a, Estado& e, Resultado& r) {
+            e.FechaJuliana = a.D();
+            e.Latitud = a.D();
+            HallaLuna(e);
+            r.D(e.Planetas[11].AscRecta).D(e.Planetas[11].Declinacion);
+        }};
+        o["HallaPrecesion"] = {1, [](Argumentos& a, Estado& e, Resultado& r) {
+            e.FechaJuliana = a.D();
+            HallaPrecesion(e);
+            r.D(e.PrecZeta).D(e.PrecZ).D(e.PrecTheta);
+        }};
+        o["AplicaPrecesion"] = {4, [](Argumentos& a, Estado& e, Resultado& r) {
+            e.FechaJuliana = a.D();
+            Vector3f v{a.F(), a.F(), a.F()};
+            e.Precesion = true;
+            HallaPrecesion(e);
+            AplicaPrecesion(e, v);
+            r.F(v.x).F(v.y).F(v.z);
+        }};
+        o["EcuatorialAHorizontal"] = {5, [](Argumentos& a, Estado& e, Resultado& r) {
+            e.TiempoSidereo = a.D();
+            e.Latitud = a.D();
+            Vector3f v{a.F(), a.F(), a.F()};
+            Vector3f h = EcuatorialAHorizontal(e, v);
+            r.F(h.x).F(h.y).F(h.z);
+        }};
+        o["ArcoTangente"] = {2, [](Argumentos& a, Estado&, Resultado& r) {
+            double y = a.D();
+            r.D(ArcoTangente(y, a.D()));
+        }};
+        o["AngulosAVector"] = {2, [](Argumentos& a, Estado&, Resultado& r) {
+            double ang = a.D();
+            Vector3f v = AngulosAVector(ang, a.D());
+            r.F(v.x).F(v.y).F(v.z);
+        }};
+        o["VectorAAngulos"] = {3, [](Argumentos& a, Estado&, Resultado& r) {
+            Vector3f v{a.F(), a.F(), a.F()};
+            double ang = 0, dec = 0;
+            VectorAAngulos(v, ang, dec);
+            r.D(ang).D(dec);
+        }};
+        o["EclipticaAEcuatorial"] = {1, [](Argumentos& a, Estado&, Resultado& r) {
+            double ar = 0, dec = 0;
+            EclipticaAEcuatorial(a.D(), ar, dec);
+            r.D(ar).D(dec);
+        }};
+        o["TextoSexagesimal"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.T(TextoSexagesimal(a.D())); }};
+        o["TextoLatitud"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.T(TextoLatitud(a.D())); }};
+        o["TextoLongitud"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.T(TextoLongitud(a.D())); }};
+        o["TextoHoras"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.T(TextoHoras(a.F())); }};
+        o["TextoDireccion"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.T(TextoDireccion(a.D())); }};
+        o["TextoGrados"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.T(TextoGrados(a.D())); }};
+        o["LeeAngulo"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.D(LeeAngulo(a.T())); }};
+        o["ProyectaPunto"] = {7, [](Argumentos& a, Estado& e, Resultado& r) {
+            LeeVista(a, e);
+            Vector3f v{a.F(), a.F(), a.F()};
+            PuntoProyectado p = ProyectaPunto(e, v);
+            r.F(p.X).F(p.Y).F(p.Z);
+        }};
+        o["PuntoACielo"] = {6, [](Argumentos& a, Estado& e, Resultado& r) {
+            LeeVista(a, e);
+            float X = a.F(), Y = a.F();
+            double ar = 0, dec = 0;
+            float alt = 0, az = 0;
+            PuntoACielo(e, X, Y, ar, dec, alt, az);
+            r.D(ar).D(dec).F(alt).F(az);
+        }};
+        o["Umbral"] = {2, [](Argumentos& a, Estado& e, Resultado& r) {
+            e.Zoom = a.F();
+            e.Orientacion = a.I();
+            AjustaEscala(e);
+            r.F(e.Umbral);
+        }};
+    }
+
+    static void LeeVista(Argumentos& a, Estado& e) {
+        e.TiempoSidereo = a.D();
+        e.Latitud = a.D();
+        e.Direccion = a.D();
+        e.Elevacion = a.D();
+        e.Precesion = false;
+        GiraDireccion(e);
+    }
+
+    std::string dirDatos_;
+    std::map<std::string, Operacion> operaciones_;
+    TablaPlanetas planetas_{}, vacia_{};
+    bool cargada_ = false;
+};
+
+}  // namespace
+
+void Calcula(std::istream& entrada, std::ostream& salida, const std::string& dirDatos) {
+    Calculadora calc(dirDatos);
+    std::string linea;
+    while (std::getline(entrada, linea)) {
+        std::size_t p = linea.find_first_not_of(" \t\r");
+        if (p == std::string::npos || linea[p] == '#') continue;
+        salida << calc.Ejecuta(linea) << '\n' << std::flush;
+    }
+}
+
+int ComandoCalcula(int argc, char** argv) {
+    std::string dirDatos;
+    for (int i = 2; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--datos") == 0 && i + 1 < argc) {
+            dirDatos = argv[++i];
+            if (!dirDatos.empty() && dirDatos.back() != '/') dirDatos += '/';
+        } else {
+            std::cerr << "vedrano-cli calcula: opción no válida: " << argv[i] << "\n"
+                      << "Uso: vedrano-cli calcula [--datos DIR]\n";
+            return 2;
+        }
+    }
+    if (dirDatos.empty()) dirDatos = CarpetaDatosPorDefecto(argv[0]);
+    Calcula(std::cin, std::cout, dirDatos);
+    return 0;
+}
+
+}  // namespace vedrano

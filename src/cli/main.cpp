@@ -1,0 +1,27 @@
+// vedrano-cli: the planetarium's core from the command line.
+#include <cstring>
+#include <iostream>
+
+#include "cli/ComandoCalcula.h"
+
+namespace {
+
+void Uso() {
+    std::cerr << "Uso: vedrano-cli ORDEN [opciones]\n"
+                 "Órdenes:\n"
+                 "  calcula [--datos DIR]   calculadora por lotes: lee operaciones de la entrada\n"
+                 "                          estándar y escribe un resultado por línea\n";
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 2 || std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0) {
+        Uso();
+        return argc < 2 ? 2 : 0;
+    }
+    if (std::strcmp(argv[1], "calcula") == 0) return vedrano::ComandoCalcula(argc, argv);
+    std::cerr << "vedrano-cli: orden desconocida: " << argv[1] << "\n";
+    Uso();
+    return 2;
+}

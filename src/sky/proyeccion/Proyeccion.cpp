@@ -1,0 +1,124 @@
+#include "sky/proyeccion/Proyeccion.h"
+
+#include <cmath>
+
+#include "app/Aritmetica.h"
+#include "app/Constantes.h"
+#include "astro/Precesion.h"
+
+namespace vedrano {
+
+namespace {
+
+// The constant added to arc cosines of the inverse; it is not pi/2 (its
+// sixth decimal differs) and shifts every reported angle by ~3.1e-6 rad.
+constexpr double CUARTO_INVERSO = 1.570793267949;
+
+const DerivadosRotacion& Vista(const Estado& e) {
+    DerivadosRotacion& r = e.Derivados;
+    if (!r.vistaLista || r.giro != e.DireccionGirada || r.elevacion != e.Elevacion) {
+        r.giro = e.DireccionGirada;
+        r.elevacion = e.Elevacion;
+        double D = MEDIO_PI - e.Elevacion;
+        r.cc = std::cos(r.giro);
+        r.sc = std::sin(r.giro);
+        r.cd = std::cos(D);
+        r.sd = std::sin(D);
+        r.vistaLista = true;
+    }
+    return r;
+}
+
+}  // namespace
+
+PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h) {
+    const DerivadosRotacion& r = Vista(e);
+    double X3 = h.x * r.cc + h.y * r.sc;
+    double Y3 = h.y * r.cc - h.x * r.sc;
+    double Y4 = Y3 * r.cd + h.z * r.sd;
+    double Z4 = h.z * r.cd - Y3 * r.sd;
+    return {static_cast<float>(X3), static_cast<float>(Y4), static_cast<float>(Z4)};
+}
+
+PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v) {
+    AplicaPrecesion(e, v);
+    return ProyectaHorizontal(e, EcuatorialAHorizontal(e, v));
+}
+
+PuntoProyectado ProyectaPunto(const Estado& e, Vector3f v) { return ProyectaPuntoRef(e, v); }
+
+void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, float& altitud,
+                 float& azimut) {
+    try {
+        double x0 = X, y0 = Y;
+        if (x0 * x0 + y0 * y0 > 1) {
+            ar = 99;
+            dec = 99;
+            return;
+        }
+        double Z = Sqr(1 - x0 * x0 - y0 * y0);
+        double D = DOS_PI - (MEDIO_PI - e.Elevacion);
+        double C = DOS_PI - e.DireccionGirada;
+        double Y3 = y0 * std::cos(D) + Z * std::sin(D);
+        double Z2 = Z * std::cos(D) - y0 * std::sin(D);
+        double X1 = x0 * std::cos(C) + Y3 * std::sin(C);
+        double Y2 = Y3 * std::cos(C) - x0 * std::sin(C);
+
+        altitud = static_cast<float>(std::atan(Divide(Z2, Sqr(1 - Z2 * Z2))));
+        double h = Sqr(X1 * X1 + Y2 * Y2);
+        double c = Divide(Y2, h);
+        double az;
+        if (c == 1) {
+            az = 0;
+        } else if (c == -1) {
+            az = 3.1415927f;
+        } else {
+            az = std::atan(Divide(-c, Sqr(1 - c * c))) + CUARTO_INVERSO;
+        }
+        if (X1 > 0) az = DOS_PI - az;
+        azimut = static_cast<float>(az);
+
+        double F = DOS_PI - e.Latitud;
+        double Y1 = Y2 * std::cos(F) - Z2 * std::sin(F);
+        double Z1 = Z2 * std::cos(F) + Y2 * std::sin(F);
+        double S = DOS_PI - e.TiempoSidereo;
+        double x = X1 * std::cos(S) + Z1 * std::sin(S);
+        double z = Z1 * std::cos(S) - X1 * std::sin(S);
+        double y = Y1;
+
+        double d = std::atan(Divide(y, Sqr(1 - y * y)));
+        double cc = Divide(z, std::fabs(std::cos(d)));
+        double a = std::atan(Divide(-cc, Sqr(1 - cc * cc))) + CUARTO_INVERSO;
+        if (x > 0) a = DOS_PI - a;
+        dec = d;
+        ar = a;
+    } catch (const ErrorEjecucion&) {
+        ar = 99;
+        dec = 99;
+    }
+}
+
+void GiraDireccion(Estado& e) { e.DireccionGirada = e.Direccion - PI; }
+
+void AjustaEscala(Estado& e, int anchoPixeles, int altoPixeles) {
+    float signo = e.Orientacion == 1 ? 1.0f : -1.0f;
+    float alto = ASingle(-2.6 / e.Zoom);
+    float ancho = ASingle(signo * (3.4666667 / e.Zoom));
+    if (anchoPixeles > 0 && altoPixeles > 0) {
+        // Same scale across and down: extend the longer side past 4:3.
+        double proporcion = static_cast<double>(anchoPixeles) / altoPixeles;
+        double base = 3.4666667 / 2.6;
+        if (proporcion > base)
+            ancho = ASingle(signo * (2.6 * proporcion / e.Zoom));
+        else if (proporcion < base)
+            alto = ASingle(-(3.4666667 / proporcion) / e.Zoom);
+    }
+    e.EscalaAlto = alto;
+    e.EscalaAncho = ancho;
+    e.EscalaIzquierda = -e.EscalaAncho / 2;
+    e.EscalaSuperior = -e.EscalaAlto / 2;
+    double q = 1.0 - double(e.EscalaIzquierda) * e.EscalaIzquierda - double(e.EscalaSuperior) * e.EscalaSuperior;
+    e.Umbral = q >= 0 ? static_cast<float>(std::sqrt(q)) : 0.0f;
+}
+
+}  // namespace vedrano

@@ -1,0 +1,49 @@
+// Orthographic projection of sky directions onto the sky picture and back.
+// The view frame's third axis points along the line of sight; X and Y are
+// screen coordinates in the picture's user scale (one unit is the radius of
+// the unit sphere at zoom 1), Z the depth (1 at the centre of view, 0 at
+// 90 degrees from it, negative behind the observer).
+#pragma once
+
+#include "app/Estado.h"
+#include "astro/Coordenadas.h"
+
+namespace vedrano {
+
+struct PuntoProyectado {
+    float X = 0, Y = 0, Z = 0;
+};
+
+// Projects an equatorial catalogue direction (precessed first when the
+// precession switch is on).
+PuntoProyectado ProyectaPunto(const Estado& e, Vector3f v);
+
+// As ProyectaPunto, and leaves the precessed direction in v.
+PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v);
+
+// Projects a direction already in the horizon frame (x west, y north,
+// z zenith).
+PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h);
+
+// Inverse transform: the right ascension and declination (referred to the
+// date), altitude and azimuth under a screen point. A point off the sphere,
+// or one the arithmetic cannot undo, gives right ascension and declination
+// 99; altitude and azimuth are then left as they were when not reached.
+void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, float& altitud,
+                 float& azimut);
+
+// The turned azimuth: Direccion - pi.
+void GiraDireccion(Estado& e);
+
+// The user scale from the zoom and the orientation flag, and the depth
+// threshold below which a point cannot fall inside the picture. With a
+// picture size the scale extends on the longer side so that one unit stays
+// the same number of pixels across and down; without one (or at 4:3) it
+// spans exactly +-1.7333 x +-1.3 at zoom 1.
+void AjustaEscala(Estado& e, int anchoPixeles = 0, int altoPixeles = 0);
+
+// True when a projected point is drawn: only a depth strictly below the
+// threshold hides it.
+inline bool EsVisible(const Estado& e, const PuntoProyectado& p) { return !(p.Z < e.Umbral); }
+
+}  // namespace vedrano
