@@ -1,9 +1,10 @@
 #include "app/Formato.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <vector>
 
 namespace vedrano {
 
@@ -19,6 +20,17 @@ bool SoloArrobas(std::string_view p) {
 // Decimal digits of |valor| rounded half away from zero to `decimales`
 // places, taken from its 15-significant-digit text as the run-time does.
 void Redondea(double valor, int decimales, std::string& entera, std::string& fraccion) {
+    double absoluto = std::fabs(valor);
+    if (absoluto == std::floor(absoluto) && absoluto < 1e15) {
+        // Whole numbers need no rounding: the common case of every date and
+        // angle field.
+        char dig[24];
+        auto fin = std::to_chars(dig, dig + sizeof dig, static_cast<long long>(absoluto)).ptr;
+        entera.assign(dig, fin);
+        if (entera == "0") entera.clear();
+        fraccion.assign(static_cast<std::size_t>(decimales), '0');
+        return;
+    }
     char buf[64];
     std::snprintf(buf, sizeof buf, "%.14e", std::fabs(valor));
     // buf: d.dddddddddddddde±XX
@@ -60,6 +72,32 @@ void Redondea(double valor, int decimales, std::string& entera, std::string& fra
     entera = entera.substr(k);
 }
 
+// Integer part of a picture, filled from the right; surplus digits go to
+// the leftmost digit place, "0" places pad with zero, "#" places with nothing.
+void ParteEntera(std::string& r, std::string_view pEntera, std::string_view entera) {
+    std::size_t primero = std::string_view::npos;
+    for (std::size_t i = 0; i < pEntera.size() && primero == std::string_view::npos; ++i)
+        if (pEntera[i] == '0' || pEntera[i] == '#') primero = i;
+    char buf[64];
+    std::size_t n = 0;
+    long d = static_cast<long>(entera.size()) - 1;
+    for (std::size_t i = pEntera.size(); i-- > 0 && n < sizeof buf - 24;) {
+        char c = pEntera[i];
+        if (c != '0' && c != '#') {
+            buf[n++] = c;
+        } else if (i == primero && d >= 0) {
+            while (d >= 0) buf[n++] = entera[static_cast<std::size_t>(d--)];
+        } else if (d >= 0) {
+            buf[n++] = entera[static_cast<std::size_t>(d--)];
+        } else if (c == '0') {
+            buf[n++] = '0';
+        }
+    }
+    std::reverse(buf, buf + n);
+    r.append(buf, n);
+    if (primero == std::string_view::npos) r.append(entera);
+}
+
 std::string FormatoSeccion(double valor, std::string_view p, bool signo) {
     std::size_t punto = p.find('.');
     std::string_view pEntera = p.substr(0, punto);
@@ -70,27 +108,8 @@ std::string FormatoSeccion(double valor, std::string_view p, bool signo) {
     std::string entera, fraccion;
     Redondea(valor, decimales, entera, fraccion);
 
-    // Integer part, filled from the right; surplus digits go to the leftmost place.
-    std::vector<std::size_t> lugares;
-    for (std::size_t i = 0; i < pEntera.size(); ++i)
-        if (pEntera[i] == '0' || pEntera[i] == '#') lugares.push_back(i);
-    std::vector<std::string> trozo(pEntera.size());
-    int d = static_cast<int>(entera.size()) - 1;
-    for (std::size_t k = lugares.size(); k-- > 0;) {
-        std::size_t i = lugares[k];
-        if (k == 0 && d >= 0) {
-            trozo[i] = entera.substr(0, static_cast<std::size_t>(d + 1));
-            d = -1;
-        } else if (d >= 0) {
-            trozo[i] = entera[static_cast<std::size_t>(d--)];
-        } else if (pEntera[i] == '0') {
-            trozo[i] = "0";
-        }
-    }
     std::string r;
-    for (std::size_t i = 0; i < pEntera.size(); ++i)
-        r += (pEntera[i] == '0' || pEntera[i] == '#') ? trozo[i] : std::string(1, pEntera[i]);
-    if (lugares.empty() && !entera.empty()) r += entera;
+    ParteEntera(r, pEntera, entera);
     if (punto != std::string_view::npos) {
         r += '.';
         std::size_t f = 0;
@@ -112,6 +131,11 @@ std::string FormatoSeccion(double valor, std::string_view p, bool signo) {
 }  // namespace
 
 std::string CStr(double valor) {
+    if (valor == std::floor(valor) && std::fabs(valor) < 1e15) {
+        char dig[24];
+        auto fin = std::to_chars(dig, dig + sizeof dig, static_cast<long long>(valor)).ptr;
+        return std::string(dig, fin);
+    }
     char buf[64];
     std::snprintf(buf, sizeof buf, "%.15G", valor);
     std::string s = buf;
@@ -147,6 +171,24 @@ std::string FormatoTexto(std::string_view texto, std::string_view picture) {
 }
 
 std::string Formato(double valor, std::string_view picture) {
+    bool sinDecimales = true;
+    for (char c : picture) sinDecimales = sinDecimales && c != '.' && c != ';';
+    if (sinDecimales && valor == std::floor(valor) && std::fabs(valor) < 1e15) {
+        // Whole numbers: the date, time and angle fields, without rounding.
+        char dig[24];
+        char* fin = std::to_chars(dig, dig + sizeof dig, static_cast<long long>(std::fabs(valor))).ptr;
+        std::string_view digitos(dig, static_cast<std::size_t>(fin - dig));
+        std::string r;
+        if (valor < 0) r += '-';
+        if (SoloArrobas(picture)) {
+            std::size_t largo = digitos.size() + r.size();
+            if (largo < picture.size()) r.insert(0, picture.size() - largo, ' ');
+            r.append(digitos);
+            return r;
+        }
+        ParteEntera(r, picture, digitos == "0" ? std::string_view{} : digitos);
+        return r;
+    }
     if (SoloArrobas(picture)) return FormatoTexto(CStr(valor), picture);
     std::size_t pc = picture.find(';');
     if (pc != std::string_view::npos) {

@@ -31,12 +31,14 @@ bool EsBisiesto(int16_t ano) {
 }
 
 double FechaAJuliana(std::string_view cadena) {
-    std::string c(cadena);
-    int16_t Y = CInt(Val(Mid(c, 5, 5)));
-    int16_t M = CInt(Val(Mid(c, 3, 2)));
-    int16_t D = CInt(Val(Mid(c, 1, 2)));
-    int16_t h = CInt(Val(Mid(c, 10, 2)));
-    int16_t mi = CInt(Val(Mid(c, 12, 2)));
+    auto campo = [&](std::size_t desde, std::size_t largo) {
+        return CInt(Val(desde < cadena.size() ? cadena.substr(desde, largo) : std::string_view{}));
+    };
+    int16_t Y = campo(4, 5);
+    int16_t M = campo(2, 2);
+    int16_t D = campo(0, 2);
+    int16_t h = campo(9, 2);
+    int16_t mi = campo(11, 2);
     if (Y > 7999) Y = 7999;
 
     int32_t A = A32(int64_t{Y} + 4712);

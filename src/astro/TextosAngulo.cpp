@@ -61,7 +61,14 @@ std::string TextoHoras(float ar, Estado* e) {
         H = H + 1;
     }
     if (H > 23) H = 0;
-    return Formato(H, "@@@") + "h" + Formato(M, " 00") + "m" + Formato(S, " 00") + "s";
+    std::string texto = Formato(H, "@@@");
+    texto.reserve(16);
+    texto += 'h';
+    texto += Formato(M, " 00");
+    texto += 'm';
+    texto += Formato(S, " 00");
+    texto += 's';
+    return texto;
 }
 
 std::string TextoDireccion(double az, Estado* e) {
