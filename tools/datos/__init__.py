@@ -1,0 +1,1 @@
+"""Builders of VEDRANO's catalogue files from the staged open catalogues."""

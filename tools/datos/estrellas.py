@@ -1,0 +1,133 @@
+"""VDRDAT1.DAT (all stars) and VDRDAT2.DAT (stars with designations).
+
+VDRDAT1 record (18 bytes): magnitude Single, kind Integer, direction.
+VDRDAT2 record (44 bytes): designation String*8, name String*10, RA, Dec
+and magnitude Singles, kind Integer, direction.
+Both are sorted by magnitude, then Hipparcos number.
+
+Kind = 1 when variable + 2 when multiple, with the rules below, chosen so
+that the legend's classes mean something at the eyepiece.
+"""
+import os
+
+from . import binario
+
+NUM_ESTRELLAS = 26520
+NUM_ESTRELLAS_NOMBRE = 2583
+# Variable: a GCVS star whose range reaches this many magnitudes, enough to
+# be seen by comparing with neighbouring stars by eye.
+AMPLITUD_MINIMA = 0.3
+# Multiple: a WDS pair wider than a 60 mm telescope resolves (Dawes 116/60)
+# and not so wide that the companion is usually an unrelated field star, or
+# a star Hipparcos found multiple.
+SEPARACION_MINIMA = 2.0
+SEPARACION_MAXIMA = 60.0
+
+# Proper names longer than the 10-character field, written short; any other
+# longer name is left out rather than cut at random.
+NOMBRES_CORTOS = {
+    'Rigil Kentaurus': 'Rigil Kent',
+    'Estrella Polar': 'Polar',
+    'Miaplacidus': 'Miaplacid.',
+    'Kaus Australis': 'Kaus Aust.',
+    'Kaus Borealis': 'Kaus Bor.',
+    'Zubeneschamali': 'Zubenesch.',
+    'Kornephoros': 'Kornephor.',
+    'Vindemiatrix': 'Vindemiat.',
+    'Deneb Algedi': 'Deneb Alg.',
+    'Tania Australis': 'Tania Aus.',
+    'Tania Borealis': 'Tania Bor.',
+    'Yed Posterior': 'Yed Post.',
+    'Kaffaljidhma': 'Kaffaljid.',
+    'Alula Borealis': 'Alula Bor.',
+    'Alula Australis': 'Alula Aus.',
+    'Baten Kaitos': 'Baten Kait',
+    'Prima Hyadum': 'Prima Hyad',
+    'Secunda Hyadum': 'Sec. Hyad.',
+    'Asellus Australis': 'Asellus A.',
+    'Asellus Borealis': 'Asellus B.',
+    'La Estrella de Garnet': 'Granate',
+    'Zubenelgenubi II': 'Zubenelg.',
+}
+
+
+def _es_variable(fila):
+    amplitud = fila['gcvs_amplitude']
+    return bool(fila['gcvs_name']) and amplitud != '' and float(amplitud) >= AMPLITUD_MINIMA
+
+
+def _es_multiple(fila):
+    if not fila['wds_id']:
+        return False
+    separacion = float(fila['wds_sep_arcsec']) if fila['wds_sep_arcsec'] else 999.9
+    return SEPARACION_MINIMA <= separacion <= SEPARACION_MAXIMA or fila['hip_mult_kstars'] == '1'
+
+
+def tipo(fila):
+    return (1 if _es_variable(fila) else 0) + (2 if _es_multiple(fila) else 0)
+
+
+def _orden(fila):
+    return (float(fila['vmag']), int(fila['hip']))
+
+
+def estrellas(fuentes):
+    filas = binario.lee_csv(os.path.join(fuentes, 'estrellas', 'estrellas_hip_v8.csv'))
+    filas.sort(key=_orden)
+    return filas
+
+
+def designacion(fila):
+    """Bayer (Latin letters), else Flamsteed, else the variable-star name,
+    in at most 8 characters: a component letter and then the blank go first."""
+    for campo in ('bayer_latin', 'flamsteed', 'gcvs_latin'):
+        if fila[campo]:
+            d = fila[campo].split(';')[0].strip()
+            partes = d.split(' ')
+            if len(d) > 8 and len(partes) == 3 and len(partes[2]) == 1:
+                d = partes[0] + ' ' + partes[1]
+            if len(d) > 8:
+                d = d.replace(' ', '')
+            return d
+    return ''
+
+
+def nombre(fila):
+    n = fila['name_es'] or fila['name']
+    if len(n) > 10:
+        n = NOMBRES_CORTOS.get(n, '')
+    return n
+
+
+def con_nombre(fuentes, tipos):
+    """The brightest stars to V 8 with a designation or a proper name."""
+    filas = binario.lee_csv(os.path.join(fuentes, 'estrellas', 'estrellas_designaciones.csv'))
+    filas = [f for f in filas if f['vmag'] and f['hip'] in tipos
+             and (designacion(f) or nombre(f))]
+    filas.sort(key=_orden)
+    return filas[:NUM_ESTRELLAS_NOMBRE]
+
+
+def escribe_vdrdat1(fuentes, salida):
+    filas = estrellas(fuentes)[:NUM_ESTRELLAS]
+    registros = []
+    for f in filas:
+        ar, dec = binario.grados(f['ra_deg'], f['dec_deg'])
+        registros.append(binario.simple(float(f['vmag'])) + binario.entero(tipo(f))
+                         + binario.vector(ar, dec))
+    binario.escribe(salida, 'VDRDAT1.DAT', registros, 18)
+    return [float(f['vmag']) for f in filas]
+
+
+def escribe_vdrdat2(fuentes, salida):
+    tipos = {f['hip']: tipo(f) for f in estrellas(fuentes)}
+    filas = con_nombre(fuentes, tipos)
+    registros = []
+    for f in filas:
+        ar, dec = binario.grados(f['ra_deg'], f['dec_deg'])
+        registros.append(binario.texto(designacion(f), 8) + binario.texto(nombre(f), 10)
+                         + binario.simple(ar) + binario.simple(dec)
+                         + binario.simple(float(f['vmag'])) + binario.entero(tipos[f['hip']])
+                         + binario.vector(ar, dec))
+    binario.escribe(salida, 'VDRDAT2.DAT', registros, 44)
+    return [float(f['vmag']) for f in filas]
