@@ -37,6 +37,17 @@ struct DerivadosRotacion {
     double cc = 1, sc = 0, cd = 1, sd = 0;
 };
 
+// The check boxes of the object options, 0 or 1 (anything non-zero is on),
+// which gate the layers of the sky picture.
+struct Interruptores {
+    int16_t Sol = 1, Luna = 1;
+    std::array<int16_t, 9> Plane{1, 1, 1, 1, 1, 1, 1, 1, 1};  // Mercury .. Pluto
+    int16_t Galax = 0, NebPl = 0, NebDi = 0, CumAb = 0, CumGl = 0;
+    int16_t Quasa = 0, Pulsa = 0, Aguje = 0;
+    int16_t ARDEC30 = 0, ARDEC15 = 0;
+    int16_t Horiz = 1, Eclip = 0, LimCo = 0, LuzDi = 0, ViaLa = 0, Messi = 0;
+};
+
 struct Estado {
     // Time.
     double FechaJuliana = 2482294.0;  // 9 March 2084, 12:00 UT
@@ -77,10 +88,25 @@ struct Estado {
     // The user scale of the sky picture, as read back after being set.
     float EscalaIzquierda = 0, EscalaSuperior = 0, EscalaAncho = 0, EscalaAlto = 0;
 
-    // Star and constellation levels and identification choices.
+    // Star and constellation levels and identification choices, and the
+    // detail levels of the deep-sky categories.
     int16_t NivelEstrellas = 1;
     int16_t NivelConstelaciones = 1;
-    int16_t IdEstrellas = 0, IdConstelaciones = 0, IdMessier = 0;
+    int16_t IdEstrellas = 1, IdConstelaciones = 0, IdMessier = 0;
+    int16_t NivelGalaxias = 3, NivelNebPlanetarias = 1, NivelNebDifusas = 1;
+    int16_t NivelCumAbiertos = 1, NivelCumGlobulares = 1;
+    bool IdentificarObjetos = true;  // names beside deep-sky objects
+    Interruptores Capas;
+
+    // Settings of the dialogs kept with a configuration.
+    int16_t TipoPaso = 1;        // date and time form: 0 sidereal, 1 solar steps
+    int16_t TeclaPaso = 3;       // date and time form: the step key last chosen (1..7)
+    bool IncluirAnimacion = false;  // configuration dialog: animate after loading
+    int16_t AnchoMm = 180, AltoMm = 130;  // printing: picture size on paper
+    bool ImagenEnPantalla = false;        // printing: colours as on screen, not black on white
+    bool PanelControl = true, PanelLocalizacion = true, PanelObjetos = true;
+    bool Telescopio = false;
+    double CampoTelescopio = 0.0523596;   // the telescope circle's angle, radians
 
     // Pointing.
     double ObjetivoAR = 0, ObjetivoDEC = 0;
