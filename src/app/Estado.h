@@ -48,6 +48,12 @@ struct Interruptores {
     int16_t Horiz = 1, Eclip = 0, LimCo = 0, LuzDi = 0, ViaLa = 0, Messi = 0;
 };
 
+// The texts of the information panel, as the main window shows them.
+struct PanelInformacion {
+    std::string Direccion, Elevacion, Zoom;
+    std::string FechaUniversal, HoraUniversal, FechaLocal, HoraLocal, DiaJuliano;
+};
+
 struct Estado {
     // Time.
     double FechaJuliana = 2482294.0;  // 9 March 2084, 12:00 UT
@@ -107,6 +113,13 @@ struct Estado {
     bool PanelControl = true, PanelLocalizacion = true, PanelObjetos = true;
     bool Telescopio = false;
     double CampoTelescopio = 0.0523596;   // the telescope circle's angle, radians
+
+    // Drawing: the colours of the four star kinds (&HBBGGRR: ordinary,
+    // variable, multiple, both), whether the Sun, Moon and planets are
+    // recomputed with the scale, and the panel texts of the last pass.
+    std::array<unsigned long, 4> ColoresEstrellas{0xFFFFFF, 0x60B0FF, 0xFFE0A0, 0x90FF90};
+    bool ActualizarSistemaSolar = true;
+    PanelInformacion Panel;
 
     // Pointing.
     double ObjetivoAR = 0, ObjetivoDEC = 0;

@@ -94,7 +94,7 @@ struct ListasCatalogo {
 
 struct Catalogos {
     std::vector<Ciudad> TablaCiudades = std::vector<Ciudad>(N_CIUDADES);
-    TablaPlanetas TablaPlanetas{};
+    ::vedrano::TablaPlanetas TablaPlanetas{};
     std::vector<ObjetoMessier> TablaMessier = std::vector<ObjetoMessier>(N_MESSIER);
     std::vector<Constelacion> TablaConstelaciones = std::vector<Constelacion>(N_CONSTELACIONES);
     std::vector<PuntoTrazo> TablaFiguras = std::vector<PuntoTrazo>(N_FIGURAS);

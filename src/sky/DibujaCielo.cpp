@@ -1,0 +1,99 @@
+#include "sky/DibujaCielo.h"
+
+#include "app/Formato.h"
+#include "astro/Planetas.h"
+#include "astro/TextosAngulo.h"
+#include "astro/Tiempo.h"
+#include "sky/Plotters.h"
+#include "sky/proyeccion/Proyeccion.h"
+
+namespace vedrano {
+
+namespace {
+
+bool Encendido(int16_t interruptor) { return interruptor != 0; }
+
+void CalculaSistemaSolar(Estado& e, const Catalogos& c) {
+    for (int16_t i = 1; i <= 9; ++i) HallaPlaneta(e, c.TablaPlanetas, i);
+    HallaSolAparente(e);
+    HallaLuna(e);
+}
+
+}  // namespace
+
+void ActualizaPanel(Estado& e) {
+    PanelInformacion& p = e.Panel;
+    p.Direccion = " Direcci\xF3n = " + TextoDireccion(e.Direccion, &e);
+    p.Elevacion = " Elevaci\xF3n = " + TextoGrados(e.Elevacion, &e);
+    std::string zoom = Formato(e.Zoom, "#0.0");
+    for (char& ch : zoom)
+        if (ch == '.') ch = ',';
+    p.Zoom = " Zoom = " + zoom;
+    MuestraFechas(e);
+    p.FechaUniversal = "T. U. = " + e.Fechas[0].Dia + " / " + e.Fechas[0].Mes + " / " + e.Fechas[0].Ano;
+    p.HoraUniversal = e.Fechas[0].Hora;
+    p.FechaLocal = "F. L. = " + e.Fechas[1].Dia + " / " + e.Fechas[1].Mes + " / " + e.Fechas[1].Ano;
+    p.HoraLocal = " " + e.Fechas[1].Hora;
+    p.DiaJuliano = "D. J. = " + e.TextoDiaJuliano;
+}
+
+void AjustaEscalaLienzo(Estado& e, Lienzo& l) {
+    AjustaEscala(e, l.Ancho(), l.Alto());
+    l.Escala(e.EscalaIzquierda, e.EscalaSuperior, e.EscalaAncho, e.EscalaAlto);
+}
+
+void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l) {
+    Contexto x{e, c, l};
+    const Interruptores& s = e.Capas;
+    l.FijaFondo(QColor(0, 0, 0));
+    l.FijaColor(ColorVB(0xFFFFFF));
+    l.FijaAnchoTrazo(1);
+    l.FijaEstiloTrazo(0);
+    if (Encendido(s.LuzDi)) DibujaLuzDiurna(x);
+    if (Encendido(s.ARDEC15)) DibujaRejilla(x, 15);
+    if (Encendido(s.ARDEC30)) DibujaRejilla(x, 30);
+    if (Encendido(s.LimCo)) DibujaLimites(x);
+    if (Encendido(s.Horiz)) DibujaHorizonte(x);
+    if (Encendido(s.Eclip)) DibujaEcliptica(x);
+    if (e.NivelConstelaciones > 0) DibujaConstelaciones(x);
+    if (e.NivelEstrellas > 0) DibujaEstrellas(x);
+    if (Encendido(s.Messi)) DibujaMessier(x);
+    if (Encendido(s.Galax)) DibujaGalaxias(x);
+    const Cuentas& t = c.TablasCuentas;
+    if (Encendido(s.NebPl)) DibujaNebulosas(x, c.TablaNebPlanetarias, t.NebPlanetarias, e.NivelNebPlanetarias);
+    if (Encendido(s.NebDi)) DibujaNebulosas(x, c.TablaNebDifusas, t.NebDifusas, e.NivelNebDifusas);
+    if (Encendido(s.CumAb)) DibujaCumulos(x, c.TablaCumAbiertos, t.CumAbiertos, e.NivelCumAbiertos, 0x8000, 0.5);
+    if (Encendido(s.CumGl))
+        DibujaCumulos(x, c.TablaCumGlobulares, t.CumGlobulares, e.NivelCumGlobulares, 0xC0C0C0, 1.4);
+    if (Encendido(s.Quasa)) DibujaExoticos(x, c.TablaCuasares, false);
+    if (Encendido(s.Pulsa)) DibujaExoticos(x, c.TablaPulsares, false);
+    if (Encendido(s.Aguje)) DibujaExoticos(x, c.TablaAgujeros, true);
+    if (Encendido(s.ViaLa)) DibujaViaLactea(x);
+    for (int16_t i = 1; i <= 9; ++i) {
+        if (!Encendido(s.Plane[static_cast<std::size_t>(i - 1)])) continue;
+        HallaPlaneta(e, c.TablaPlanetas, i);
+        DibujaCuerpo(x, i);
+    }
+    if (Encendido(s.Sol)) {
+        HallaSolAparente(e);
+        DibujaCuerpo(x, 10);
+    }
+    if (Encendido(s.Luna)) {
+        HallaSolAparente(e);  // the phase needs the Sun even when it is not drawn
+        HallaLuna(e);
+        DibujaCuerpo(x, 11);
+    }
+    ActualizaPanel(e);
+    // The pass erased any cursor mark.
+    e.MarcaVisible = false;
+}
+
+void ActualizaCielo(Estado& e, const Catalogos& c, Lienzo& l) {
+    ActualizaTiempo(e, c.TablaPlanetas);
+    if (e.ActualizarSistemaSolar) CalculaSistemaSolar(e, c);
+    AjustaEscalaLienzo(e, l);
+    GiraDireccion(e);
+    DibujaCielo(e, c, l);
+}
+
+}  // namespace vedrano

@@ -1,0 +1,29 @@
+// The sky picture: the rendering pass with its fixed order of layers, and
+// the full update that recomputes time, scale and view before it.
+#pragma once
+
+#include "app/Estado.h"
+#include "catalogue/Catalogos.h"
+#include "sky/Lienzo.h"
+
+namespace vedrano {
+
+// Clears the picture and draws every layer whose switch is on, in order:
+// daylight, 15 and 30 degree grids, boundaries, horizon, ecliptic,
+// constellations, stars, Messier, galaxies, planetary and diffuse nebulae,
+// open and globular clusters, quasars, pulsars, black holes, Milky Way,
+// planets 1..9, the Sun, the Moon; then the panel texts.
+void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l);
+
+// Time refresh, the solar system, the scale for the picture's size, the
+// turned azimuth, and the pass.
+void ActualizaCielo(Estado& e, const Catalogos& c, Lienzo& l);
+
+// Sets the state's scale from the zoom for the picture's size and hands it
+// to the canvas.
+void AjustaEscalaLienzo(Estado& e, Lienzo& l);
+
+// The texts of the information panel.
+void ActualizaPanel(Estado& e);
+
+}  // namespace vedrano

@@ -1,0 +1,190 @@
+#include "sky/Lienzo.h"
+
+#include <QPainterPath>
+#include <cmath>
+
+#include "app/Texto1252.h"
+
+namespace vedrano {
+
+QColor ColorVB(unsigned long bgr) {
+    return QColor(static_cast<int>(bgr & 0xFF), static_cast<int>((bgr >> 8) & 0xFF),
+                  static_cast<int>((bgr >> 16) & 0xFF));
+}
+
+Lienzo::Lienzo(int ancho, int alto) : fuente_("DejaVu Sans") {
+    fuente_.setPixelSize(11);
+    Redimensiona(ancho, alto);
+}
+
+void Lienzo::Redimensiona(int ancho, int alto) {
+    pintor_.reset();
+    imagen_ = QImage(ancho, alto, QImage::Format_RGB32);
+    imagen_.fill(fondo_);
+    pintor_ = std::make_unique<QPainter>(&imagen_);
+    pintor_->setRenderHint(QPainter::Antialiasing, true);
+    pintor_->setRenderHint(QPainter::TextAntialiasing, true);
+    pintor_->setFont(fuente_);
+    Escala(izquierda_, superior_, ancho_, alto_);
+}
+
+void Lienzo::Escala(float izquierda, float superior, float ancho, float alto) {
+    izquierda_ = izquierda;
+    superior_ = superior;
+    ancho_ = ancho;
+    alto_ = alto;
+    sx_ = imagen_.width() / static_cast<double>(ancho_);
+    sy_ = imagen_.height() / static_cast<double>(alto_);
+}
+
+QPointF Lienzo::APixel(double x, double y) const {
+    return {(x - izquierda_) * sx_, (y - superior_) * sy_};
+}
+
+double Lienzo::PixelesPorUnidad() const { return std::fabs(sx_); }
+
+void Lienzo::Cls() {
+    imagen_.fill(fondo_);
+    actualX_ = actualY_ = 0;
+}
+
+void Lienzo::FijaFondo(const QColor& c) {
+    fondo_ = c;
+    Cls();
+}
+
+QPen Lienzo::Pluma() const {
+    QPen p(tinta_);
+    p.setWidthF(anchoTrazo_);
+    p.setCapStyle(Qt::RoundCap);
+    if (estilo_ == 2) p.setStyle(Qt::DotLine);
+    if (estilo_ == 1) p.setStyle(Qt::DashLine);
+    return p;
+}
+
+const QPixmap& Lienzo::SpritePunto(int ancho, QRgb color) {
+    auto clave = std::make_pair(ancho, color);
+    auto it = sprites_.find(clave);
+    if (it != sprites_.end()) return it->second;
+    // A dot pre-rendered once: drawing thousands of stars is then a blit each.
+    int lado = ancho + 2;
+    QPixmap p(lado, lado);
+    p.fill(Qt::transparent);
+    QPainter q(&p);
+    q.setRenderHint(QPainter::Antialiasing, ancho > 1);
+    q.setPen(Qt::NoPen);
+    q.setBrush(QColor(color));
+    if (ancho <= 1)
+        q.fillRect(1, 1, 1, 1, QColor(color));
+    else
+        q.drawEllipse(QRectF(1, 1, ancho, ancho));
+    return sprites_.emplace(clave, std::move(p)).first->second;
+}
+
+void Lienzo::Punto(double x, double y) {
+    actualX_ = x;
+    actualY_ = y;
+    if (estilo_ == 5) return;
+    QPointF c = APixel(x, y);
+    const QPixmap& s = SpritePunto(anchoTrazo_, tinta_.rgb());
+    double medio = anchoTrazo_ / 2.0 + 1;
+    pintor_->drawPixmap(QPointF(std::floor(c.x() - medio + 0.5), std::floor(c.y() - medio + 0.5)), s);
+}
+
+void Lienzo::LineaA(double x, double y) { Linea(actualX_, actualY_, x, y); }
+
+void Lienzo::Linea(double x1, double y1, double x2, double y2) {
+    actualX_ = x2;
+    actualY_ = y2;
+    if (estilo_ == 5) return;
+    pintor_->setPen(Pluma());
+    pintor_->drawLine(APixel(x1, y1), APixel(x2, y2));
+}
+
+void Lienzo::Caja(double x1, double y1, double x2, double y2, bool relleno) {
+    actualX_ = x2;
+    actualY_ = y2;
+    if (estilo_ == 5) return;
+    pintor_->setPen(Pluma());
+    pintor_->setBrush(relleno ? QBrush(tinta_) : Qt::NoBrush);
+    pintor_->drawRect(QRectF(APixel(x1, y1), APixel(x2, y2)).normalized());
+    pintor_->setBrush(Qt::NoBrush);
+}
+
+void Lienzo::Circulo(double x, double y, double r, double aspecto, double inicio, double fin, bool arco,
+                     const QColor* relleno) {
+    actualX_ = x;
+    actualY_ = y;
+    if (estilo_ == 5) return;
+    QPointF c = APixel(x, y);
+    double rx = r * PixelesPorUnidad();
+    double ry = rx * aspecto;
+    QRectF caja(c.x() - rx, c.y() - ry, 2 * rx, 2 * ry);
+    pintor_->setPen(Pluma());
+    pintor_->setBrush(relleno ? QBrush(*relleno) : Qt::NoBrush);
+    if (!arco) {
+        pintor_->drawEllipse(caja);
+    } else {
+        double a0 = std::fabs(inicio), a1 = std::fabs(fin);
+        double barrido = a1 - a0;
+        if (barrido <= 0) barrido += 2 * M_PI;
+        QPainterPath camino;
+        bool alCentro0 = inicio < 0, alCentro1 = fin < 0;
+        if (alCentro0 || alCentro1) {
+            camino.moveTo(c);
+            camino.arcTo(caja, a0 * 180 / M_PI, barrido * 180 / M_PI);
+            camino.closeSubpath();
+        } else {
+            camino.arcMoveTo(caja, a0 * 180 / M_PI);
+            camino.arcTo(caja, a0 * 180 / M_PI, barrido * 180 / M_PI);
+        }
+        pintor_->drawPath(camino);
+    }
+    pintor_->setBrush(Qt::NoBrush);
+}
+
+void Lienzo::Fase(double x, double y, double r, double iluminada, double haciaSol, const QColor& luz,
+                  const QColor& sombra) {
+    QPointF c = APixel(x, y);
+    double rp = r * PixelesPorUnidad();
+    pintor_->save();
+    pintor_->translate(c);
+    // The lit limb faces the Sun; screen y grows downward.
+    pintor_->rotate(-haciaSol * 180 / M_PI);
+    pintor_->setPen(Qt::NoPen);
+    pintor_->setBrush(sombra);
+    pintor_->drawEllipse(QPointF(0, 0), rp, rp);
+    // Lit region: the half disc toward the Sun plus or minus a half ellipse
+    // whose semi-axis is |1 - 2 f| of the radius (the terminator).
+    double k = 1 - 2 * iluminada;
+    QPainterPath limbo;
+    limbo.moveTo(0, -rp);
+    limbo.arcTo(QRectF(-rp, -rp, 2 * rp, 2 * rp), 90, -180);
+    double e = std::fabs(k) * rp;
+    QRectF terminador(-e, -rp, 2 * e, 2 * rp);
+    if (k >= 0)
+        limbo.arcTo(terminador, 270, 180);  // crescent: back along the near side
+    else
+        limbo.arcTo(terminador, 270, -180);  // gibbous: bulge away from the Sun
+    limbo.closeSubpath();
+    pintor_->setBrush(luz);
+    pintor_->drawPath(limbo);
+    pintor_->restore();
+}
+
+void Lienzo::FijaFuente(const QFont& f) {
+    fuente_ = f;
+    pintor_->setFont(fuente_);
+}
+
+void Lienzo::Escribe(std::string_view cp1252) {
+    QPointF p = APixel(actualX_, actualY_);
+    pintor_->setPen(tinta_);
+    QString texto = QString::fromUtf8(DesdeA1252(cp1252));
+    QFontMetricsF m(fuente_);
+    pintor_->drawText(QPointF(p.x(), p.y() + m.ascent()), texto);
+    // The pen moves to the start of the next line, as Print leaves it.
+    actualY_ += m.height() / sy_;
+}
+
+}  // namespace vedrano

@@ -1,0 +1,45 @@
+#include "sky/Plotters.h"
+
+namespace vedrano {
+
+namespace {
+
+constexpr unsigned long COLOR_FIGURAS = 0xA06030;  // a muted blue
+constexpr unsigned long COLOR_NOMBRES = 0xE0B080;
+
+}  // namespace
+
+void DibujaConstelaciones(Contexto& x) {
+    const Estado& e = x.e;
+    int16_t estilo = static_cast<int16_t>(x.l.EstiloTrazo());
+    x.l.FijaColor(ColorVB(COLOR_FIGURAS));
+    int n = CuentaNivel(x.c.TablasCuentas.Figuras, e.NivelConstelaciones);
+    PuntoProyectado anterior;
+    for (int i = 0; i <= n; ++i) {
+        const PuntoTrazo& f = x.c.TablaFiguras[static_cast<std::size_t>(i)];
+        // No threshold here: the pen style alone hides strokes behind the observer.
+        PuntoProyectado p = ProyectaPunto(e, f.Direccion);
+        AjustaTrazo(x, p, estilo);
+        if (f.Pluma == 0) x.l.Linea(anterior.X, anterior.Y, p.X, p.Y);
+        anterior = p;
+    }
+    x.l.FijaEstiloTrazo(0);
+
+    if (e.IdConstelaciones == 0) return;
+    x.l.FijaColor(ColorVB(COLOR_NOMBRES));
+    for (const Constelacion& c : x.c.TablaConstelaciones) {
+        if (c.Nivel > e.NivelConstelaciones) continue;
+        PuntoProyectado p = ProyectaPunto(e, c.Direccion);
+        if (!EsVisible(e, p)) continue;
+        x.l.FijaPosicion(p.X, p.Y);
+        switch (e.IdConstelaciones) {
+            case 1: x.l.Escribe(c.Abreviatura.texto()); break;
+            case 2: x.l.Escribe(c.NombreCastellano.texto()); break;
+            case 3: x.l.Escribe(c.NombreLatino.texto()); break;
+            default: break;
+        }
+    }
+    x.l.FijaColor(ColorVB(0xFFFFFF));
+}
+
+}  // namespace vedrano

@@ -1,0 +1,80 @@
+// The horizon with its compass points, and the daylight colour of the sky.
+#include <array>
+#include <cmath>
+
+#include "app/Aritmetica.h"
+#include "app/Constantes.h"
+#include "app/Texto1252.h"
+#include "astro/Planetas.h"
+#include "sky/Plotters.h"
+
+namespace vedrano {
+
+namespace {
+
+// Points 0..72 of the horizon every 5 degrees of azimuth (from north
+// through east) in the horizon frame: x west, y north, z zenith.
+const std::array<Vector3f, 73>& TablaHorizonte() {
+    static const std::array<Vector3f, 73> tabla = [] {
+        std::array<Vector3f, 73> t{};
+        for (int k = 0; k <= 72; ++k) {
+            double az = k * 5 * GRADO;
+            t[static_cast<std::size_t>(k)] = {static_cast<float>(-std::sin(az)), static_cast<float>(std::cos(az)), 0.0f};
+        }
+        return t;
+    }();
+    return tabla;
+}
+
+constexpr unsigned long COLOR_HORIZONTE = 0x40B040;
+
+}  // namespace
+
+void DibujaHorizonte(Contexto& x) {
+    const Estado& e = x.e;
+    const auto& h = TablaHorizonte();
+    int16_t estilo = static_cast<int16_t>(x.l.EstiloTrazo());
+    x.l.FijaColor(ColorVB(COLOR_HORIZONTE));
+    PuntoProyectado p = ProyectaHorizontal(e, h[0]);
+    AjustaTrazo(x, p, estilo);
+    x.l.Punto(p.X, p.Y);
+    for (int k = 1; k <= 72; ++k) {
+        p = ProyectaHorizontal(e, h[static_cast<std::size_t>(k)]);
+        AjustaTrazo(x, p, estilo);
+        x.l.LineaA(p.X, p.Y);
+    }
+    x.l.FijaEstiloTrazo(0);
+
+    PuntoProyectado cenit = ProyectaHorizontal(e, {0, 0, 1});
+    if (EsVisible(e, cenit)) {
+        double m = std::fabs(e.EscalaAncho) / 80;
+        x.l.Linea(cenit.X - m, cenit.Y, cenit.X + m, cenit.Y);
+        x.l.Linea(cenit.X, cenit.Y - m, cenit.X, cenit.Y + m);
+    }
+    const std::string rumbos = "N NEE SES SOO NO";
+    for (int k = 0; k <= 7; ++k) {
+        p = ProyectaHorizontal(e, h[static_cast<std::size_t>(9 * k)]);
+        if (!EsVisible(e, p)) continue;
+        x.l.Punto(p.X, p.Y);
+        x.l.Escribe(Mid(rumbos, 2 * k + 1, 2));
+    }
+    x.l.FijaColor(ColorVB(0xFFFFFF));
+}
+
+void DibujaLuzDiurna(Contexto& x) {
+    Estado& e = x.e;
+    // Looking at the zenith, the Sun's depth is the sine of its altitude.
+    double elevacion = e.Elevacion;
+    e.Elevacion = MEDIO_PI;
+    HallaSolAparente(e);
+    PosicionCuerpo& sol = e.Planetas[10];
+    Vector3f v{sol.x, sol.y, sol.z};
+    PuntoProyectado p = ProyectaPuntoRef(e, v);
+    e.Elevacion = elevacion;
+    int azul = CInt(p.Z * 640.0 + 192.0);
+    if (azul < 0) azul = 0;
+    if (azul > 192) azul = 192;
+    x.l.FijaFondo(QColor(0, 0, azul));
+}
+
+}  // namespace vedrano
