@@ -1,0 +1,22 @@
+// Writing the application state as a configuration file.
+#pragma once
+#include <string>
+#include <string_view>
+
+#include "app/Estado.h"
+#include "config/InterfazConfiguracion.h"
+
+namespace vedrano {
+
+// The four lines of the state, each ended by CR LF.
+std::string TextoConfiguracion(const Estado& e);
+
+// Saves the state as DirArchivo + nombre after the name rules
+// (NombreParaGuardar). A refused name is told through `ui` and nothing is
+// written. An existing file is replaced only when the user accepts, except
+// for the main window's work file (`esTrabajo`), which is replaced at once.
+// RespuestaMensaje is left false when the user declined, true otherwise.
+ResultadoConfiguracion EscribeConfiguracion(Estado& e, std::string_view nombre, InterfazConfiguracion& ui,
+                                            bool esTrabajo);
+
+}  // namespace vedrano

@@ -1,0 +1,109 @@
+#include "config/ItemsConfiguracion.h"
+
+#include <limits>
+
+#include "catalogue/Catalogos.h"
+
+namespace vedrano {
+
+namespace {
+
+constexpr double INF = std::numeric_limits<double>::infinity();
+constexpr double DOS_PI = 6.2831853072;
+constexpr double MEDIO_PI = 1.5707963268;
+// The instants the calendar can show: 1 January 4713 BC, 0:00, to the end
+// of 31 December 7999.
+constexpr double PRIMER_DIA = -0.5, ULTIMO_DIA = 4642999.5;
+// Levels index the count tables of the catalogues (eight entries). Star and
+// constellation levels of 0 or below draw nothing, so they have no lower bound.
+constexpr double NIVEL_MAXIMO = 7;
+
+#define ENTERO(campo) CampoItem{CampoEntero{[](Estado& e) -> int16_t& { return e.campo; }}}
+#define SINGLE(campo) CampoItem{CampoSingle{[](Estado& e) -> float& { return e.campo; }}}
+#define DOUBLE(campo) CampoItem{CampoDouble{[](Estado& e) -> double& { return e.campo; }}}
+#define BOOLEANO(campo) CampoItem{CampoBooleano{[](Estado& e) -> bool& { return e.campo; }}}
+#define CADENA(campo) CampoItem{CampoCadena{[](Estado& e) -> std::string& { return e.campo; }}}
+
+// A check box of the object options: any value is accepted, non-zero is on.
+#define CAPA(campo) {"Capas." #campo, ENTERO(Capas.campo), -INF, INF, false, 0}
+#define PLANETA(i) {"Capas.Plane[" #i "]", ENTERO(Capas.Plane[i]), -INF, INF, false, 0}
+
+const ItemConfiguracion LINEA1[] = {
+    {"FechaJuliana", DOUBLE(FechaJuliana), PRIMER_DIA, ULTIMO_DIA, true, 2482294.0},
+    {"IndiceLugar", ENTERO(IndiceLugar), 0, N_CIUDADES - 1, true, 95},
+    {"Longitud", DOUBLE(Longitud), -DOS_PI, DOS_PI, true, 0.0829029977321625},
+    {"Latitud", DOUBLE(Latitud), -MEDIO_PI, MEDIO_PI, true, 0.640890002250671},
+    {"Direccion", DOUBLE(Direccion), -INF, INF, true, 3.1415926536},
+    {"Elevacion", DOUBLE(Elevacion), -MEDIO_PI, MEDIO_PI, true, 0.785398852000001},
+    {"Zoom", SINGLE(Zoom), 1, 15, true, 2.0},
+};
+
+const ItemConfiguracion LINEA2[] = {
+    {"TextoLugar", CADENA(TextoLugar), -INF, INF, true, 0},
+};
+
+const ItemConfiguracion LINEA3[] = {
+    {"NivelEstrellas", ENTERO(NivelEstrellas), -INF, NIVEL_MAXIMO, true, 1},
+    {"NivelConstelaciones", ENTERO(NivelConstelaciones), -INF, NIVEL_MAXIMO, true, 1},
+    {"NivelGalaxias", ENTERO(NivelGalaxias), 0, NIVEL_MAXIMO, true, 3},
+    {"NivelNebPlanetarias", ENTERO(NivelNebPlanetarias), 0, NIVEL_MAXIMO, true, 1},
+    {"NivelNebDifusas", ENTERO(NivelNebDifusas), 0, NIVEL_MAXIMO, true, 1},
+    {"NivelCumAbiertos", ENTERO(NivelCumAbiertos), 0, NIVEL_MAXIMO, true, 1},
+    {"NivelCumGlobulares", ENTERO(NivelCumGlobulares), 0, NIVEL_MAXIMO, true, 1},
+    // Identification choices: one value per option button of their frame.
+    {"IdEstrellas", ENTERO(IdEstrellas), 0, 2, true, 1},
+    {"IdConstelaciones", ENTERO(IdConstelaciones), 0, 3, false, 0},
+    {"IdMessier", ENTERO(IdMessier), 0, 2, false, 0},
+    {"TipoPaso", ENTERO(TipoPaso), 0, 1, false, 0},
+    {"TeclaPaso", ENTERO(TeclaPaso), 1, 7, false, 0},
+    {"PasoUnidad", ENTERO(PasoUnidad), 1, 12, false, 0},  // indexes the step table
+    {"IncluirAnimacion", BOOLEANO(IncluirAnimacion), -INF, INF, false, 0},
+    CAPA(Sol), CAPA(Luna),
+    PLANETA(0), PLANETA(1), PLANETA(2), PLANETA(3), PLANETA(4), PLANETA(5), PLANETA(6), PLANETA(7),
+    PLANETA(8),
+    CAPA(Galax), CAPA(NebPl), CAPA(NebDi), CAPA(CumAb), CAPA(CumGl), CAPA(Quasa), CAPA(Pulsa),
+    CAPA(Aguje), CAPA(ARDEC30), CAPA(ARDEC15), CAPA(Horiz), CAPA(Eclip), CAPA(LimCo), CAPA(LuzDi),
+    CAPA(ViaLa), CAPA(Messi),
+    {"IdentificarObjetos", BOOLEANO(IdentificarObjetos), -INF, INF, true, 1},
+};
+
+const ItemConfiguracion LINEA4[] = {
+    {"AnchoMm", ENTERO(AnchoMm), -INF, INF, false, 0},
+    {"AltoMm", ENTERO(AltoMm), -INF, INF, false, 0},
+    {"PanelControl", BOOLEANO(PanelControl), -INF, INF, false, 0},
+    {"PanelCursor", BOOLEANO(PanelCursor), -INF, INF, false, 0},
+    {"PanelLocalizacion", BOOLEANO(PanelLocalizacion), -INF, INF, false, 0},
+    {"PanelObjetos", BOOLEANO(PanelObjetos), -INF, INF, false, 0},
+    {"FormatoHora", ENTERO(FormatoHora), -INF, INF, true, 1},
+    {"Orientacion", ENTERO(Orientacion), -INF, INF, true, 1},
+    {"Precesion", BOOLEANO(Precesion), -INF, INF, false, 0},
+    {"Sonido", BOOLEANO(Sonido), -INF, INF, false, 0},
+    {"Telescopio", BOOLEANO(Telescopio), -INF, INF, false, 0},
+    {"CampoTelescopio", DOUBLE(CampoTelescopio), -INF, INF, true, 0.0523596},
+    {"Velocidad", ENTERO(Velocidad), -INF, INF, true, 50},
+    {"ZonaHoraria", SINGLE(ZonaHoraria), -24, 24, true, 0.0},
+    {"HorarioVerano", BOOLEANO(HorarioVerano), -INF, INF, false, 0},
+    {"PasoCantidad", ENTERO(PasoCantidad), -INF, INF, true, 1},
+    {"TiempoReal", BOOLEANO(TiempoReal), -INF, INF, true, 0},
+    {"ImagenEnPantalla", BOOLEANO(ImagenEnPantalla), -INF, INF, true, 0},
+};
+
+template <std::size_t N>
+constexpr int Cuenta(const ItemConfiguracion (&)[N]) {
+    return static_cast<int>(N);
+}
+static_assert(Cuenta(LINEA1) == ITEMS_POR_LINEA[0] && Cuenta(LINEA2) == ITEMS_POR_LINEA[1] &&
+              Cuenta(LINEA3) == ITEMS_POR_LINEA[2] && Cuenta(LINEA4) == ITEMS_POR_LINEA[3]);
+
+}  // namespace
+
+std::span<const ItemConfiguracion> ItemsLinea(int linea) {
+    switch (linea) {
+        case 1: return LINEA1;
+        case 2: return LINEA2;
+        case 3: return LINEA3;
+        default: return LINEA4;
+    }
+}
+
+}  // namespace vedrano
