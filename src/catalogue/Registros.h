@@ -19,8 +19,8 @@ struct CadenaFija {
     bool operator==(const CadenaFija&) const = default;
 };
 
-// Walks one record's bytes; reading past the end yields zero bytes, as a
-// short record reads blank.
+// Walks one record's bytes; reading past the end yields zero bytes for the
+// numbers and blanks for the texts, as a short record reads blank.
 class LectorCampos {
 public:
     explicit LectorCampos(std::string_view bytes) : bytes_(bytes) {}
@@ -51,7 +51,8 @@ public:
     template <std::size_t N>
     CadenaFija<N> Texto() {
         CadenaFija<N> t;
-        Toma(reinterpret_cast<uint8_t*>(t.c.data()), N);
+        for (std::size_t i = 0; i < N && pos_ + i < bytes_.size(); ++i) t.c[i] = bytes_[pos_ + i];
+        pos_ += N;
         return t;
     }
     void Salta(std::size_t n) { pos_ += n; }

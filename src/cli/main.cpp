@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "cli/ComandoCalcula.h"
+#include "cli/ComandoLista.h"
 
 namespace {
 
@@ -10,7 +11,8 @@ void Uso() {
     std::cerr << "Uso: vedrano-cli ORDEN [opciones]\n"
                  "Órdenes:\n"
                  "  calcula [--datos DIR]   calculadora por lotes: lee operaciones de la entrada\n"
-                 "                          estándar y escribe un resultado por línea\n";
+                 "                          estándar y escribe un resultado por línea\n"
+                 "  lista CATEGORIA [--datos DIR]   escribe las líneas de una lista de objetos o de lugares\n";
 }
 
 }  // namespace
@@ -21,6 +23,7 @@ int main(int argc, char** argv) {
         return argc < 2 ? 2 : 0;
     }
     if (std::strcmp(argv[1], "calcula") == 0) return vedrano::ComandoCalcula(argc, argv);
+    if (std::strcmp(argv[1], "lista") == 0) return vedrano::ComandoLista(argc, argv);
     std::cerr << "vedrano-cli: orden desconocida: " << argv[1] << "\n";
     Uso();
     return 2;
