@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "cli/ComandoCalcula.h"
+#include "cli/ComandoConfiguracion.h"
 #include "cli/ComandoLista.h"
 
 namespace {
@@ -12,6 +13,7 @@ void Uso() {
                  "Órdenes:\n"
                  "  calcula [--datos DIR]   calculadora por lotes: lee operaciones de la entrada\n"
                  "                          estándar y escribe un resultado por línea\n"
+                 "  configuracion --lee A.ls1 [--escribe B.ls1]   lista una configuración y la reescribe\n"
                  "  lista CATEGORIA [--datos DIR]   escribe las líneas de una lista de objetos o de lugares\n";
 }
 
@@ -23,6 +25,7 @@ int main(int argc, char** argv) {
         return argc < 2 ? 2 : 0;
     }
     if (std::strcmp(argv[1], "calcula") == 0) return vedrano::ComandoCalcula(argc, argv);
+    if (std::strcmp(argv[1], "configuracion") == 0) return vedrano::ComandoConfiguracion(argc, argv);
     if (std::strcmp(argv[1], "lista") == 0) return vedrano::ComandoLista(argc, argv);
     std::cerr << "vedrano-cli: orden desconocida: " << argv[1] << "\n";
     Uso();

@@ -18,7 +18,12 @@ namespace {
 
 constexpr int16_t VERDADERO = -1;
 
-std::string TextoItem(Estado& e, const ItemConfiguracion& item) {
+}  // namespace
+
+std::string TextoItem(const Estado& estado, const ItemConfiguracion& item) {
+    // The table's accessors hand out references for the reader; here they
+    // are only read.
+    Estado& e = const_cast<Estado&>(estado);
     return std::visit(
         [&](auto campo) -> std::string {
             using T = std::remove_reference_t<decltype(campo(e))>;
@@ -36,18 +41,13 @@ std::string TextoItem(Estado& e, const ItemConfiguracion& item) {
         item.campo);
 }
 
-}  // namespace
-
 std::string TextoConfiguracion(const Estado& e) {
-    // The table's accessors hand out references for the reader; here they
-    // are only read.
-    Estado& estado = const_cast<Estado&>(e);
     std::string texto;
     for (int linea = 1; linea <= 4; ++linea) {
         bool primero = true;
         for (const ItemConfiguracion& item : ItemsLinea(linea)) {
             if (!primero) texto += ',';
-            texto += TextoItem(estado, item);
+            texto += TextoItem(e, item);
             primero = false;
         }
         texto += Estado::SaltoLinea;

@@ -5,8 +5,12 @@
 
 #include "app/Estado.h"
 #include "config/InterfazConfiguracion.h"
+#include "config/ItemsConfiguracion.h"
 
 namespace vedrano {
+
+// The written text of one item.
+std::string TextoItem(const Estado& e, const ItemConfiguracion& item);
 
 // The four lines of the state, each ended by CR LF.
 std::string TextoConfiguracion(const Estado& e);
