@@ -1,0 +1,91 @@
+// The full rendering pass at 1024x768 with every layer on and all stars,
+// and the projection of all the stars alone.
+#include <benchmark/benchmark.h>
+
+#include <QGuiApplication>
+
+#include "catalogue/CargaCatalogos.h"
+#include "sky/DibujaCielo.h"
+#include "sky/proyeccion/Proyeccion.h"
+
+namespace {
+
+using namespace vedrano;
+
+class Mudo : public Notificador {
+public:
+    void Avisa(const std::string&, const std::string&) override {}
+};
+
+const Catalogos& Datos() {
+    static Catalogos c;
+    static bool listo = [] {
+        Mudo m;
+        CargaCatalogos(VEDRANO_DATOS, c, m);
+        return true;
+    }();
+    (void)listo;
+    return c;
+}
+
+void Aplicacion() {
+    static int argc = 1;
+    static char nombre[] = "bench";
+    static char* argv[] = {nombre, nullptr};
+    if (!QGuiApplication::instance()) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        new QGuiApplication(argc, argv);
+    }
+}
+
+Estado TodoEncendido() {
+    Estado e;
+    Interruptores& s = e.Capas;
+    s.Sol = s.Luna = 1;
+    s.Plane.fill(1);
+    s.Galax = s.NebPl = s.NebDi = s.CumAb = s.CumGl = s.Quasa = s.Pulsa = s.Aguje = 1;
+    s.ARDEC30 = s.ARDEC15 = s.Horiz = s.Eclip = s.LimCo = s.LuzDi = s.ViaLa = s.Messi = 1;
+    e.NivelEstrellas = 7;
+    e.NivelConstelaciones = 4;
+    e.NivelGalaxias = 4;
+    e.NivelNebPlanetarias = e.NivelNebDifusas = e.NivelCumAbiertos = e.NivelCumGlobulares = 2;
+    e.IdEstrellas = 2;
+    e.IdConstelaciones = 2;
+    e.IdMessier = 1;
+    e.Precesion = true;
+    e.Zoom = 1;
+    e.Elevacion = 1.2;
+    e.FechaJuliana = 2460700.4;  // a January night
+    return e;
+}
+
+void BM_PasadaCompleta(benchmark::State& st) {
+    Aplicacion();
+    const Catalogos& c = Datos();
+    Lienzo l(1024, 768);
+    Estado e = TodoEncendido();
+    ActualizaCielo(e, c, l);
+    for (auto _ : st) {
+        DibujaCielo(e, c, l);
+        benchmark::DoNotOptimize(l.Imagen().constBits());
+    }
+}
+BENCHMARK(BM_PasadaCompleta)->Unit(benchmark::kMillisecond);
+
+void BM_ProyeccionEstrellas(benchmark::State& st) {
+    const Catalogos& c = Datos();
+    Estado e = TodoEncendido();
+    e.Precesion = true;
+    e.PrecZeta = 0.001, e.PrecZ = 0.001, e.PrecTheta = 0.0009;
+    e.TiempoSidereo = 1.0;
+    GiraDireccion(e);
+    AjustaEscala(e, 1024, 768);
+    for (auto _ : st) {
+        int visibles = 0;
+        for (int i = 0; i < N_ESTRELLAS; ++i) visibles += EsVisible(e, ProyectaPunto(e, c.TablaEstrellas[static_cast<std::size_t>(i)].Direccion));
+        benchmark::DoNotOptimize(visibles);
+    }
+}
+BENCHMARK(BM_ProyeccionEstrellas)->Unit(benchmark::kMicrosecond);
+
+}  // namespace

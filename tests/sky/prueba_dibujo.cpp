@@ -1,0 +1,238 @@
+// The sky picture on real images: layer gating, what each layer touches,
+// daylight, the Moon over the Sun, and sizes with the zoom.
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <cmath>
+
+#include "astro/Calendario.h"
+#include "astro/Planetas.h"
+#include "astro/Coordenadas.h"
+#include "astro/Tiempo.h"
+#include "catalogue/CargaCatalogos.h"
+#include "config/LeeConfiguracion.h"
+#include "sky/DibujaCielo.h"
+#include "sky/proyeccion/Proyeccion.h"
+
+using namespace vedrano;
+
+namespace {
+
+class Silencio : public Notificador {
+public:
+    void Avisa(const std::string& t, const std::string&) override { mensajes += t + "\n"; }
+    std::string mensajes;
+};
+
+const Catalogos& Datos() {
+    static Catalogos c;
+    static bool cargado = [] {
+        Silencio s;
+        CargaCatalogos(VEDRANO_DATOS, c, s);
+        return s.mensajes.empty();
+    }();
+    EXPECT_TRUE(cargado);
+    return c;
+}
+
+class EntornoQt : public ::testing::Environment {
+public:
+    void SetUp() override {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        static int argc = 1;
+        static char nombre[] = "pruebas";
+        static char* argv[] = {nombre, nullptr};
+        app_ = new QGuiApplication(argc, argv);
+    }
+    QGuiApplication* app_ = nullptr;
+};
+const auto* entorno = ::testing::AddGlobalTestEnvironment(new EntornoQt);
+
+// A state with every layer off and both levels 0.
+Estado Apagado() {
+    Estado e;
+    e.Capas = Interruptores{};
+    e.Capas.Sol = e.Capas.Luna = 0;
+    e.Capas.Plane.fill(0);
+    e.Capas.Horiz = 0;
+    e.NivelEstrellas = 0;
+    e.NivelConstelaciones = 0;
+    e.IdEstrellas = 0;
+    e.IdentificarObjetos = false;
+    return e;
+}
+
+int PixelesEncendidos(const QImage& img) {
+    int n = 0;
+    for (int y = 0; y < img.height(); ++y)
+        for (int x = 0; x < img.width(); ++x)
+            if ((img.pixel(x, y) & 0xFFFFFF) != 0) ++n;
+    return n;
+}
+
+void Dibuja(Estado& e, Lienzo& l) { ActualizaCielo(e, Datos(), l); }
+
+}  // namespace
+
+TEST(Dibujo, LayersOffGiveABlackPictureAndEachLayerDrawsAlone) {
+    Lienzo l(400, 300);
+    Estado e = Apagado();
+    Dibuja(e, l);
+    EXPECT_EQ(PixelesEncendidos(l.Imagen()), 0);
+    EXPECT_FALSE(e.Panel.DiaJuliano.empty());
+
+    auto conCapa = [&](auto enciende) {
+        Estado s = Apagado();
+        s.Elevacion = 0.9;
+        enciende(s);
+        Dibuja(s, l);
+        return PixelesEncendidos(l.Imagen());
+    };
+    EXPECT_GT(conCapa([](Estado& s) { s.NivelEstrellas = 3; }), 50);
+    EXPECT_GT(conCapa([](Estado& s) { s.NivelConstelaciones = 4; }), 50);
+    EXPECT_GT(conCapa([](Estado& s) { s.Capas.Horiz = 1; }), 50);
+    EXPECT_GT(conCapa([](Estado& s) { s.Capas.ARDEC15 = 1; }), 50);
+    EXPECT_GT(conCapa([](Estado& s) { s.Capas.LimCo = 1; }), 50);
+    EXPECT_GT(conCapa([](Estado& s) { s.Capas.Eclip = 1; s.Elevacion = 0.6; }), 10);
+    EXPECT_GT(conCapa([](Estado& s) { s.Capas.Galax = 1; s.NivelGalaxias = 4; }), 20);
+}
+
+TEST(Dibujo, AStarIsDrawnWhereItProjectsAndNowhereElse) {
+    // Sirius alone: level 0 draws the brightest stars; look at its pixel.
+    Lienzo l(800, 600);
+    Estado e = Apagado();
+    e.NivelEstrellas = 0;
+    e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(2024, 1, 15, 23, 0));  // Sirius high in the south
+    e.Latitud = 0.7;
+    e.Longitud = 0.06;
+    e.Elevacion = 0.5;
+    e.Zoom = 1;
+    // Render with the star layer on; compute where Sirius must fall independently
+    // of the drawing: its catalogue direction through the projection.
+    e.NivelEstrellas = 1;
+    Dibuja(e, l);
+    const Catalogos& c = Datos();
+    const EstrellaNombre* sirio = nullptr;
+    for (const auto& s : c.TablaEstrellasNombre)
+        if (s.Designacion.texto().rfind("Alf CMa", 0) == 0) sirio = &s;
+    ASSERT_NE(sirio, nullptr);
+    PuntoProyectado p = ProyectaPunto(e, sirio->Direccion);
+    ASSERT_GT(p.Z, e.Umbral);
+    QPointF px = l.APixel(p.X, p.Y);
+    QRgb centro = l.Imagen().pixel(static_cast<int>(px.x()), static_cast<int>(px.y()));
+    EXPECT_GT(qGray(centro), 100);
+    // Ten pixels away from any star the sky is black: count lit pixels in a
+    // ring around Sirius that holds no other bright star.
+    int lejos = 0;
+    for (int dx = -12; dx <= 12; ++dx)
+        for (int dy = -12; dy <= 12; ++dy)
+            if (std::hypot(dx, dy) > 8 && std::hypot(dx, dy) < 12 &&
+                (l.Imagen().pixel(static_cast<int>(px.x()) + dx, static_cast<int>(px.y()) + dy) & 0xFFFFFF))
+                ++lejos;
+    EXPECT_EQ(lejos, 0);
+}
+
+TEST(Dibujo, DaylightFollowsTheSunsAltitude) {
+    Lienzo l(100, 80);
+    const Catalogos& c = Datos();
+    for (int hora = 0; hora < 24; hora += 1) {
+        Estado e = Apagado();
+        e.Capas.LuzDi = 1;
+        e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(2024, 3, 20, hora, 0));
+        Dibuja(e, l);
+        // The Sun's altitude from its right ascension and declination.
+        HallaSolAparente(e);
+        const PosicionCuerpo& s = e.Planetas[10];
+        double H = e.TiempoSidereo - s.AscRecta;
+        double seno = std::sin(e.Latitud) * std::sin(s.Declinacion) +
+                      std::cos(e.Latitud) * std::cos(s.Declinacion) * std::cos(H);
+        int azul = qBlue(l.Imagen().pixel(50, 40));
+        if (seno > 0.01) EXPECT_EQ(azul, 192) << hora;
+        if (seno < -0.31) EXPECT_EQ(azul, 0) << hora;
+        if (std::fabs(seno + 0.15) < 0.14)
+            EXPECT_NEAR(azul, std::lround(seno * 640 + 192), 2) << hora;
+        (void)c;
+    }
+}
+
+TEST(Dibujo, TheMoonCoversTheSunAtTheEclipse) {
+    // The annular eclipse of 3 October 2005 at its maximum seen from Madrid.
+    class Calla : public InterfazConfiguracion {
+    public:
+        int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 1; }
+    } calla;
+    Estado e;
+    e.DirArchivo = std::string(VEDRANO_RAIZ) + "/Archivo/";
+    ASSERT_EQ(LeeConfiguracion(e, "Eclipse 2005.ls1", calla).error, 0);
+    Lienzo l(800, 600);
+    Dibuja(e, l);
+    const PosicionCuerpo& sol = e.Planetas[10];
+    const PosicionCuerpo& luna = e.Planetas[11];
+    QPointF ps = l.APixel(sol.X, sol.Y), pl = l.APixel(luna.X, luna.Y);
+    ASSERT_GT(ps.x(), 0);
+    ASSERT_LT(ps.x(), l.Ancho());
+    EXPECT_LT(std::hypot(ps.x() - pl.x(), ps.y() - pl.y()), 10);
+    // The Sun is yellow; the new Moon, drawn after it, is dark grey.
+    QRgb centro = l.Imagen().pixel(static_cast<int>(ps.x()), static_cast<int>(ps.y()));
+    EXPECT_LT(qRed(centro), 0x80) << std::hex << centro;
+    EXPECT_LT(qGreen(centro), 0x80) << std::hex << centro;
+}
+
+namespace {
+
+// Points the view at a catalogue direction.
+void CentraEn(Estado& e, const Vector3f& v) {
+    ActualizaTiempo(e, Datos().TablaPlanetas);
+    Vector3f h = EcuatorialAHorizontal(e, v);
+    e.Elevacion = std::asin(h.z);
+    e.Direccion = std::atan2(-h.x, h.y);
+    if (e.Direccion < 0) e.Direccion += 2 * M_PI;
+}
+
+// Lit pixels in the row run through the picture's centre.
+int RunCentral(const QImage& img, int umbral) {
+    int y = img.height() / 2, mejor = 0;
+    for (int dy = -1; dy <= 1; ++dy) {
+        int x0 = img.width() / 2, x1 = x0;
+        if (qGray(img.pixel(x0, y + dy)) <= umbral) continue;
+        while (x0 > 0 && qGray(img.pixel(x0 - 1, y + dy)) > umbral) --x0;
+        while (x1 < img.width() - 1 && qGray(img.pixel(x1 + 1, y + dy)) > umbral) ++x1;
+        mejor = std::max(mejor, x1 - x0 + 1);
+    }
+    return mejor;
+}
+
+}  // namespace
+
+TEST(Dibujo, SymbolsGrowWithTheZoomAndStarDotsFollowTheirWidthRule) {
+    Lienzo l(800, 600);
+    const Catalogos& c = Datos();
+    const Estrella& brillante = c.TablaEstrellas[0];  // Sirius, V -1.46
+    for (float zoom : {1.0f, 4.0f, 10.0f}) {
+        Estado e = Apagado();
+        e.NivelEstrellas = 1;
+        e.Zoom = zoom;
+        e.FechaJuliana = 2460000.5;
+        CentraEn(e, brillante.Direccion);
+        Dibuja(e, l);
+        int esperado = static_cast<int>(std::nearbyint((7 - brillante.Magnitud) * 0.07 * zoom + 1));
+        EXPECT_NEAR(RunCentral(l.Imagen(), 40), esperado, 1) << zoom;
+    }
+
+    // A globular cluster's symbol has a horizontal stroke 2r across.
+    auto trazo = [&](float zoom) {
+        const ObjetoProfundo& g = c.TablaCumGlobulares[0];
+        Estado e = Apagado();
+        e.Capas.CumGl = 1;
+        e.NivelCumGlobulares = 1;
+        e.Zoom = zoom;
+        e.FechaJuliana = 2460000.5;
+        CentraEn(e, g.Direccion);
+        Dibuja(e, l);
+        return RunCentral(l.Imagen(), 60);
+    };
+    int t2 = trazo(2), t8 = trazo(8);
+    double esperado2 = 2 * 0.003 * (3 - c.TablaCumGlobulares[0].Clase) * 800 / (3.4666667 / 2);
+    EXPECT_NEAR(t2, esperado2, 2);
+    EXPECT_NEAR(static_cast<double>(t8) / t2, 4.0, 0.4);
+}
