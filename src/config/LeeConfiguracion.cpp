@@ -21,9 +21,11 @@ namespace {
 constexpr std::size_t LARGO_MAXIMO = 64 * 1024;
 
 // The lines of a text, ended by CR LF, LF or a lone CR; an empty tail after
-// the last line end is not a line.
-std::vector<std::string_view> PartirLineas(std::string_view texto) {
+// the last line end is not a line. `abierta` tells whether the last line
+// runs to the end of the text without a line end.
+std::vector<std::string_view> PartirLineas(std::string_view texto, bool& abierta) {
     std::vector<std::string_view> lineas;
+    abierta = false;
     std::size_t inicio = 0;
     for (std::size_t i = 0; i < texto.size(); ++i) {
         if (texto[i] != '\r' && texto[i] != '\n') continue;
@@ -31,7 +33,10 @@ std::vector<std::string_view> PartirLineas(std::string_view texto) {
         if (texto[i] == '\r' && i + 1 < texto.size() && texto[i + 1] == '\n') ++i;
         inicio = i + 1;
     }
-    if (inicio < texto.size()) lineas.push_back(texto.substr(inicio));
+    if (inicio < texto.size()) {
+        lineas.push_back(texto.substr(inicio));
+        abierta = true;
+    }
     return lineas;
 }
 
@@ -108,7 +113,8 @@ void AplicaOmisiones(Estado& e) {
 }
 
 ResultadoConfiguracion LeeTextoConfiguracion(Estado& e, std::string_view contenido) {
-    std::vector<std::string_view> lineas = PartirLineas(contenido);
+    bool abierta;
+    std::vector<std::string_view> lineas = PartirLineas(contenido, abierta);
     for (int linea = 1; linea <= 4; ++linea) {
         auto items = ItemsLinea(linea);
         int esperados = static_cast<int>(items.size());
@@ -123,6 +129,10 @@ ResultadoConfiguracion LeeTextoConfiguracion(Estado& e, std::string_view conteni
         // table: none of its items can be trusted.
         int hallados = static_cast<int>(leidos.size());
         if (hallados < esperados) return Falta(ErrFinDeArchivo, linea, hallados + 1);
+        // A line cut short by the end of the file may end in a cut item
+        // ("Madr" for "Madrid"); only the last line may lack its line end.
+        if (abierta && linea < 4 && linea == static_cast<int>(lineas.size()))
+            return Falta(ErrFinDeArchivo, linea, hallados);
         if (hallados > esperados) return Falta(ErrTipoNoCoincide, linea, esperados + 1);
         for (int k = 0; k < esperados; ++k) {
             try {
