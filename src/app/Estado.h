@@ -35,6 +35,10 @@ struct DerivadosRotacion {
     double giro = 0, elevacion = 0;  // angles of the cached view rotation
     bool vistaLista = false;
     double cc = 1, sc = 0, cd = 1, sd = 0;
+    // The whole chain, catalogue direction to view frame, as one matrix.
+    bool completaLista = false, conPrecesion = false;
+    double claves[7] = {};
+    double m[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
 };
 
 // The check boxes of the object options, 0 or 1 (anything non-zero is on),

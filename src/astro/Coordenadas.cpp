@@ -47,7 +47,7 @@ void EclipticaAEcuatorial(double lambda, double& ar, double& dec) {
     dec = std::atan(Divide(s, Sqr(1 - s * s)));
 }
 
-Vector3f EcuatorialAHorizontal(const Estado& e, const Vector3f& v) {
+void PreparaHorizonte(const Estado& e) {
     DerivadosRotacion& r = e.Derivados;
     if (!r.horizonteListo || r.sidereo != e.TiempoSidereo || r.latitud != e.Latitud) {
         r.sidereo = e.TiempoSidereo;
@@ -58,6 +58,11 @@ Vector3f EcuatorialAHorizontal(const Estado& e, const Vector3f& v) {
         r.sf = std::sin(r.latitud);
         r.horizonteListo = true;
     }
+}
+
+Vector3f EcuatorialAHorizontal(const Estado& e, const Vector3f& v) {
+    PreparaHorizonte(e);
+    const DerivadosRotacion& r = e.Derivados;
     // Each result is stored in 32 bits before the next step uses it.
     Vector3f h;
     h.x = static_cast<float>(v.x * r.cs + v.z * r.ss);

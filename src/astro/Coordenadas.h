@@ -33,4 +33,8 @@ void EclipticaAEcuatorial(double lambda, double& ar, double& dec);
 // Z toward the zenith (the sine of the altitude).
 Vector3f EcuatorialAHorizontal(const Estado& e, const Vector3f& v);
 
+// Makes sure the sines and cosines of the sidereal time and latitude in
+// e.Derivados are those of the state.
+void PreparaHorizonte(const Estado& e);
+
 }  // namespace vedrano

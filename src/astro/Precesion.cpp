@@ -63,11 +63,16 @@ void ConstruyeMatriz(DerivadosRotacion& r, double zeta, double z, double theta) 
 
 }  // namespace
 
-void AplicaPrecesion(const Estado& e, Vector3f& v) {
-    if (!e.Precesion) return;
+void PreparaPrecesion(const Estado& e) {
     DerivadosRotacion& r = e.Derivados;
     if (!r.precesionLista || r.zeta != e.PrecZeta || r.z != e.PrecZ || r.theta != e.PrecTheta)
         ConstruyeMatriz(r, e.PrecZeta, e.PrecZ, e.PrecTheta);
+}
+
+void AplicaPrecesion(const Estado& e, Vector3f& v) {
+    if (!e.Precesion) return;
+    PreparaPrecesion(e);
+    const DerivadosRotacion& r = e.Derivados;
     double x = v.x, y = v.y, z = v.z;
     v.x = static_cast<float>(r.p[0][0] * x + r.p[0][1] * y + r.p[0][2] * z);
     v.y = static_cast<float>(r.p[1][0] * x + r.p[1][1] * y + r.p[1][2] * z);

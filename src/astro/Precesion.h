@@ -15,4 +15,7 @@ void HallaPrecesion(Estado& e);
 // and z is applied as one matrix, rebuilt whenever the angles change.
 void AplicaPrecesion(const Estado& e, Vector3f& v);
 
+// Makes sure e.Derivados.p holds the precession matrix of the state's angles.
+void PreparaPrecesion(const Estado& e);
+
 }  // namespace vedrano

@@ -12,9 +12,11 @@ QColor ColorVB(unsigned long bgr) {
                   static_cast<int>((bgr >> 16) & 0xFF));
 }
 
-Lienzo::Lienzo(int ancho, int alto) : fuente_("DejaVu Sans") {
-    fuente_.setPixelSize(11);
+Lienzo::Lienzo(int ancho, int alto) {
+    QFont f("DejaVu Sans");
+    f.setPixelSize(11);
     Redimensiona(ancho, alto);
+    FijaFuente(f);
 }
 
 void Lienzo::Redimensiona(int ancho, int alto) {
@@ -175,16 +177,28 @@ void Lienzo::Fase(double x, double y, double r, double iluminada, double haciaSo
 void Lienzo::FijaFuente(const QFont& f) {
     fuente_ = f;
     pintor_->setFont(fuente_);
+    textos_.clear();
+    QFontMetricsF m(fuente_);
+    ascenso_ = m.ascent();
+    altoLinea_ = m.height();
 }
 
 void Lienzo::Escribe(std::string_view cp1252) {
     QPointF p = APixel(actualX_, actualY_);
-    pintor_->setPen(tinta_);
-    QString texto = QString::fromUtf8(DesdeA1252(cp1252));
-    QFontMetricsF m(fuente_);
-    pintor_->drawText(QPointF(p.x(), p.y() + m.ascent()), texto);
     // The pen moves to the start of the next line, as Print leaves it.
-    actualY_ += m.height() / sy_;
+    actualY_ += altoLinea_ / sy_;
+    std::size_t fin = cp1252.find_last_not_of(' ');
+    if (fin == std::string_view::npos) return;  // blanks draw nothing
+    std::string clave(cp1252.substr(0, fin + 1));
+    auto it = textos_.find(clave);
+    if (it == textos_.end()) {
+        QStaticText t(QString::fromUtf8(DesdeA1252(clave)));
+        t.setTextFormat(Qt::PlainText);
+        t.prepare(QTransform(), fuente_);
+        it = textos_.emplace(std::move(clave), std::move(t)).first;
+    }
+    pintor_->setPen(tinta_);
+    pintor_->drawStaticText(QPointF(p.x(), p.y()), it->second);
 }
 
 }  // namespace vedrano

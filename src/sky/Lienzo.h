@@ -7,6 +7,8 @@
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
+#include <QStaticText>
+#include <unordered_map>
 #include <map>
 #include <memory>
 #include <string_view>
@@ -80,6 +82,9 @@ private:
     double actualX_ = 0, actualY_ = 0;
     QFont fuente_;
     std::map<std::pair<int, QRgb>, QPixmap> sprites_;
+    // Labels are laid out once and reused on every pass.
+    std::unordered_map<std::string, QStaticText> textos_;
+    double ascenso_ = 0, altoLinea_ = 0;
 };
 
 }  // namespace vedrano
