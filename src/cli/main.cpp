@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "cli/ComandoCalcula.h"
+#include "cli/ComandoDibuja.h"
 #include "cli/ComandoConfiguracion.h"
 #include "cli/ComandoLista.h"
 
@@ -14,7 +15,9 @@ void Uso() {
                  "  calcula [--datos DIR]   calculadora por lotes: lee operaciones de la entrada\n"
                  "                          estándar y escribe un resultado por línea\n"
                  "  configuracion --lee A.ls1 [--escribe B.ls1]   lista una configuración y la reescribe\n"
-                 "  lista CATEGORIA [--datos DIR]   escribe las líneas de una lista de objetos o de lugares\n";
+                 "  lista CATEGORIA [--datos DIR]   escribe las líneas de una lista de objetos o de lugares\n"
+                 "  dibuja [--config A.ls1] [--datos DIR] [--ancho W] [--alto H] --salida cielo.png\n"
+                 "                          dibuja el cielo de una configuración en una imagen\n";
 }
 
 }  // namespace
@@ -27,6 +30,7 @@ int main(int argc, char** argv) {
     if (std::strcmp(argv[1], "calcula") == 0) return vedrano::ComandoCalcula(argc, argv);
     if (std::strcmp(argv[1], "configuracion") == 0) return vedrano::ComandoConfiguracion(argc, argv);
     if (std::strcmp(argv[1], "lista") == 0) return vedrano::ComandoLista(argc, argv);
+    if (std::strcmp(argv[1], "dibuja") == 0) return vedrano::ComandoDibuja(argc, argv);
     std::cerr << "vedrano-cli: orden desconocida: " << argv[1] << "\n";
     Uso();
     return 2;
