@@ -236,3 +236,33 @@ TEST(Dibujo, SymbolsGrowWithTheZoomAndStarDotsFollowTheirWidthRule) {
     EXPECT_NEAR(t2, esperado2, 2);
     EXPECT_NEAR(static_cast<double>(t8) / t2, 4.0, 0.4);
 }
+
+TEST(Dibujo, TheMirroredSkyKeepsTrueAzimuths) {
+    // A star west of the centre of view lies right of centre in the normal
+    // picture and left of it in the mirrored one; reading the point back
+    // under the cursor gives its true place in both.
+    Lienzo l(800, 600);
+    for (int16_t orientacion : {int16_t{1}, int16_t{0}}) {
+        Estado e = Apagado();
+        e.Orientacion = orientacion;
+        e.Zoom = 2;
+        ActualizaTiempo(e, Datos().TablaPlanetas);
+        AjustaEscalaLienzo(e, l);
+        GiraDireccion(e);
+        // A direction 10 degrees west of the centre of view, at its altitude.
+        double az = e.Direccion + 10 * M_PI / 180, alt = e.Elevacion;
+        Vector3f h{static_cast<float>(-std::cos(alt) * std::sin(az)), static_cast<float>(std::cos(alt) * std::cos(az)),
+                   static_cast<float>(std::sin(alt))};
+        PuntoProyectado p = ProyectaHorizontal(e, h);
+        QPointF px = l.APixel(p.X, p.Y);
+        if (orientacion == 1)
+            EXPECT_GT(px.x(), l.Ancho() / 2.0);
+        else
+            EXPECT_LT(px.x(), l.Ancho() / 2.0);
+        double ar, dec;
+        float altitud = 0, azimut = 0;
+        PuntoACielo(e, p.X, p.Y, ar, dec, altitud, azimut);
+        EXPECT_NEAR(azimut, std::fmod(az, 2 * M_PI), 1e-4);
+        EXPECT_NEAR(altitud, alt, 1e-4);
+    }
+}
