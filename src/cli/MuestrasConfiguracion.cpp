@@ -263,12 +263,12 @@ std::string Alturas(Escena& s, const std::vector<int>& cuerpos) {
 std::string Inicial(Escena& s) {
     s.Lugar(INICIAL);
     s.Zona(1, false);
-    s.Fecha(2025, 1, 25, 19, 0);
+    s.Fecha(2025, 1, 25, 19, 30);
     s.e.NivelEstrellas = 5;  // to magnitude 5.5
     s.e.IdEstrellas = 0;
     s.e.Capas.ViaLa = 1;
     s.Mira(PI, 40 * GRADO, 1);
-    return Alturas(s, {2, 4, 5, 6});
+    return Alturas(s, {2, 4, 5, 6, 10});
 }
 
 std::string Constelaciones(Escena& s) {
