@@ -13,8 +13,14 @@ namespace {
 
 bool Encendido(int16_t interruptor) { return interruptor != 0; }
 
+// Record 3 is the Earth's own orbit, from which the Sun is placed: it is
+// never computed or drawn as a planet seen from the Earth, which would
+// overwrite the Sun's base values.
+constexpr int16_t TIERRA = 3;
+
 void CalculaSistemaSolar(Estado& e, const Catalogos& c) {
-    for (int16_t i = 1; i <= 9; ++i) HallaPlaneta(e, c.TablaPlanetas, i);
+    for (int16_t i = 1; i <= 9; ++i)
+        if (i != TIERRA) HallaPlaneta(e, c.TablaPlanetas, i);
     HallaSolAparente(e);
     HallaLuna(e);
 }
@@ -70,7 +76,7 @@ void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l) {
     if (Encendido(s.Aguje)) DibujaExoticos(x, c.TablaAgujeros, true);
     if (Encendido(s.ViaLa)) DibujaViaLactea(x);
     for (int16_t i = 1; i <= 9; ++i) {
-        if (!Encendido(s.Plane[static_cast<std::size_t>(i - 1)])) continue;
+        if (i == TIERRA || !Encendido(s.Plane[static_cast<std::size_t>(i - 1)])) continue;
         HallaPlaneta(e, c.TablaPlanetas, i);
         DibujaCuerpo(x, i);
     }

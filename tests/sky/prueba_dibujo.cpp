@@ -266,3 +266,18 @@ TEST(Dibujo, TheMirroredSkyKeepsTrueAzimuths) {
         EXPECT_NEAR(altitud, alt, 1e-4);
     }
 }
+
+TEST(Dibujo, DrawingThePlanetsLeavesTheSunWhereItIs) {
+    // The Earth's record is the base of the Sun's place: a pass with every
+    // planet switched on must not disturb it.
+    Lienzo l(200, 150);
+    Estado solo = Apagado();
+    solo.Capas.Sol = 1;
+    Dibuja(solo, l);
+    Estado todos = Apagado();
+    todos.Capas.Sol = 1;
+    todos.Capas.Plane.fill(1);
+    Dibuja(todos, l);
+    EXPECT_DOUBLE_EQ(todos.Planetas[10].AscRecta, solo.Planetas[10].AscRecta);
+    EXPECT_DOUBLE_EQ(todos.Planetas[10].Declinacion, solo.Planetas[10].Declinacion);
+}
