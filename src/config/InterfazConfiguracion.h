@@ -5,18 +5,13 @@
 #include <cstdint>
 #include <string>
 
+#include "app/InterfazMensajes.h"
+
 namespace vedrano {
 
-class InterfazConfiguracion {
-public:
-    virtual ~InterfazConfiguracion() = default;
-    // Shows `texto` titled `titulo` (both Windows-1252, lines joined with
-    // CR LF) with button set 1 (accept only) or 2 (accept and cancel) and an
-    // icon code (1 error, 2 question). Returns the answer: 0 for cancel,
-    // anything else for accept.
-    virtual int16_t Mensaje(const std::string& texto, const std::string& titulo, int16_t botones,
-                            int16_t icono) = 0;
-};
+// The configuration reader and writer ask and tell through the program's
+// one message interface.
+using InterfazConfiguracion = InterfazMensajes;
 
 // The outcome of reading or writing a configuration.
 struct ResultadoConfiguracion {
