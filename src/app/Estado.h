@@ -129,6 +129,8 @@ struct Estado {
     double ObjetivoAR = 0, ObjetivoDEC = 0;
     float CursorAltitud = 0, CursorAzimut = 0;
     bool PanelCursor = false, Marcar = false, MarcaVisible = false, ClickArmado = false;
+    bool CentrandoObjeto = false, Centrado = false;
+    bool CorreccionLuna = false;  // one-shot extra time step of the next centring (the Moon's motion)
 
     // Interface flags.
     bool Sonido = false, TiempoReal = false, AnimarTrasCambio = false;

@@ -1,0 +1,32 @@
+// Pointing at the sky: what lies under the cursor, and centring the view on
+// a target by moving the time until it stands on the meridian.
+#pragma once
+#include <string>
+
+#include "app/Estado.h"
+#include "app/InterfazMensajes.h"
+#include "catalogue/TablaPlanetas.h"
+
+namespace vedrano {
+
+// The four texts of the cursor panel for a screen point (user scale):
+// "A.R. = ", "DEC. = ", "Altitud = ", "Azimut = " and their values, or a
+// single blank each for a point off the sphere. Leaves the altitude and
+// azimuth in the state's cursor values.
+struct TextosCursor {
+    std::string AR, DEC, Altitud, Azimut;  // Windows-1252
+};
+TextosCursor InformeCursor(Estado& e, float X, float Y);
+
+// Centres the view on ObjetivoAR, ObjetivoDEC: refuses with its message a
+// target that never rises at the state's latitude; otherwise saves the
+// situation to "Temporal.wrk", moves the time so that the target reaches
+// the meridian, aims the view at its culmination and turns the azimuth.
+// Returns true when the view moved; the caller redraws.
+bool CentraObjeto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m);
+
+// The centring of a left click: the target under the screen point, when
+// the point is on the sphere.
+bool CentraPunto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m, float X, float Y);
+
+}  // namespace vedrano
