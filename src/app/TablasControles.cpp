@@ -1,0 +1,116 @@
+#include "app/TablasControles.h"
+
+#include <array>
+
+#include "app/ErrorEjecucion.h"
+
+namespace vedrano {
+
+namespace {
+
+// Index: form and control that shows it. The dots and blanks inside the
+// labels line up the values printed after them.
+const std::array<std::string, NUM_ETIQUETAS> ETIQUETAS = {
+    "Situaci\xF3" "n actual",  // 0 heading of a listed configuration
+    "Formato de hora",  // 1 Personal: selector, 24 hours or AM/PM
+    "Imagen en pantalla",  // 2 Impresor: switch, colours as on screen
+    "Panel de control",  // 3 Personal: switch
+    "Panel de cursor",  // 4 Personal: switch, the cursor panel of the main window
+    "Panel de localizaci\xF3" "n",  // 5 Personal: switch
+    "Panel de objetos",  // 6 Personal: switch
+    "Precesi\xF3" "n",  // 7 Personal: switch
+    "Telescopio",  // 8 Personal: switch, the telescope circle
+    "Sonido",  // 9 Personal: switch, the click sounds
+    "Incluir animaci\xF3" "n",  // 10 CargaGuar: switch, animate after loading
+    "Horario de verano",  // 11 Hora: switch
+    "Identificar objetos",  // 12 Objetos: switch, names beside deep-sky objects
+    "Incluir datos de localizaci\xF3" "n",  // 13 Impresor: switch
+    "Movimiento en tiempo real",  // 14 Animar: switch
+    "Velocidad",  // 15 Personal: slider
+    "Orientaci\xF3" "n del cielo",  // 16 Personal: selector, normal or mirrored sky
+    "Animar tras un cambio",  // 17 Personal: switch
+    "Marcar objetos",  // 18 Personal: switch, the marking of pointed objects
+    "Nivel galaxias....:",  // 19 Objetos: spin, galaxies
+    "Nivel neb. planet.:",  // 20 Objetos: spin, planetary nebulae
+    "Nivel neb. difusas:",  // 21 Objetos: spin, diffuse nebulae
+    "Nivel c\xFA" "m. abiert.:",  // 22 Objetos: spin, open clusters
+    "Nivel c\xFA" "m. globul.:",  // 23 Objetos: spin, globular clusters
+    "Di\xE1" "metro telescopio.:",  // 24 Personal: spin, the telescope field in degrees
+    "Longitud:",  // 25 Locali: spin, longitude in degrees, west positive
+    "Latitud.....:",  // 26 Locali: spin, latitude in degrees
+    "Zona horaria..............:",  // 27 Locali: spin, time zone in hours
+    "Direcci\xF3" "n:",  // 28 Locali: spin, view direction in degrees
+    "Elevaci\xF3" "n.........:",  // 29 Locali: spin, view elevation in degrees
+    "Zoom.............:",  // 30 Locali: spin, zoom
+    "Zona horaria:",  // 31 Hora: spin, time zone in hours
+    "Magnitud m\xED" "nima.:",  // 32 Objetos: spin, star magnitude level
+    "Nivel visualizar.....:",  // 33 Objetos: spin, constellation level
+    "Ancho en mms.....:",  // 34 Impresor: spin, picture width on paper
+    "Alto en mms........:",  // 35 Impresor: spin, picture height on paper
+    "Factor.:",  // 36 Animar: spin, count of units per step
+    "24 horas",  // 37 choice of selector 1
+    "AM / PM",  // 38 choice of selector 1
+    "Normal",  // 39 choice of selector 16
+    "Invertido",  // 40 choice of selector 16
+    "Fecha y Hora actuales",  // 41 Hora: push button, the present instant
+    "Mediod\xED" "a",  // 42 Hora: push button, today's noon
+    "Medianoche",  // 43 Hora: push button, today's midnight
+    "Animaci\xF3" "n",  // 44 Cielo: push button, opens the animation dialog
+    "Restaurar situaci\xF3" "n anterior",  // 45 Cielo: push button, reads back the work file
+    "Aceptar",  // 46 message box: accepting button
+    "Cancelar",  // 47 message box: cancelling button
+    "Cargar",  // 48 CargaGuar: push button
+    "Guardar",  // 49 CargaGuar: push button
+    "Borrar",  // 50 CargaGuar: push button
+};
+
+// Records not listed belong to switches and push buttons: a Boolean.
+FormatoValor Registro(int i) {
+    switch (i) {
+        case 1: return {1.0f, 2.0f, 1.0f, "0", true};  // hour format choice: 1 24 hours, 2 AM/PM
+        case 15: return {0.0f, 100.0f, 1.0f, "##0", false};  // speed
+        case 16: return {1.0f, 2.0f, 1.0f, "0", true};  // sky orientation choice: 1 normal, 2 mirrored
+        case 19: return {1.0f, 4.0f, 1.0f, "0", false};  // galaxy detail level
+        case 20: return {1.0f, 2.0f, 1.0f, "0", false};  // planetary nebula detail level
+        case 21: return {1.0f, 2.0f, 1.0f, "0", false};  // diffuse nebula detail level
+        case 22: return {1.0f, 2.0f, 1.0f, "0", false};  // open cluster detail level
+        case 23: return {1.0f, 2.0f, 1.0f, "0", false};  // globular cluster detail level
+        case 24: return {0.5f, 30.0f, 0.5f, "#0.0", false};  // telescope field, degrees
+        case 25: return {-180.0f, 180.0f, 0.5f, "##0.0", true};  // longitude, degrees west positive
+        case 26: return {-90.0f, 90.0f, 0.5f, "#0.0", false};  // latitude, degrees
+        case 27: return {-12.0f, 14.0f, 0.5f, "#0.0", false};  // time zone, hours (location dialog)
+        case 28: return {0.0f, 359.0f, 1.0f, "##0", true};  // view direction, degrees
+        case 29: return {0.0f, 90.0f, 1.0f, "#0", false};  // view elevation, degrees
+        case 30: return {1.0f, 15.0f, 0.5f, "#0.0", false};  // zoom
+        case 31: return {-12.0f, 14.0f, 0.5f, "#0.0", false};  // time zone, hours (date and time dialog)
+        case 32: return {0.0f, 7.0f, 1.0f, "0", false};  // star magnitude level
+        case 33: return {0.0f, 4.0f, 1.0f, "0", false};  // constellation level
+        case 34: return {50.0f, 280.0f, 5.0f, "##0", false};  // printed picture width, mm
+        case 35: return {50.0f, 200.0f, 5.0f, "##0", false};  // printed picture height, mm
+        case 36: return {1.0f, 999.0f, 1.0f, "##0", false};  // animation count
+        default: return {0.0f, 1.0f, 1.0f, "0", true};
+    }
+}
+
+const std::array<FormatoValor, NUM_FORMATOS>& Formatos() {
+    static const std::array<FormatoValor, NUM_FORMATOS> tabla = [] {
+        std::array<FormatoValor, NUM_FORMATOS> t;
+        for (int i = 0; i < NUM_FORMATOS; ++i) t[static_cast<std::size_t>(i)] = Registro(i);
+        return t;
+    }();
+    return tabla;
+}
+
+}  // namespace
+
+const std::string& Etiqueta(int indice) {
+    if (indice < 0 || indice >= NUM_ETIQUETAS) throw ErrorEjecucion(ErrSubindice);
+    return ETIQUETAS[static_cast<std::size_t>(indice)];
+}
+
+const FormatoValor& FormatoIndice(int indice) {
+    if (indice < 0 || indice >= NUM_FORMATOS) throw ErrorEjecucion(ErrSubindice);
+    return Formatos()[static_cast<std::size_t>(indice)];
+}
+
+}  // namespace vedrano

@@ -1,0 +1,220 @@
+#include "dialogs/Mensajes.h"
+
+#include <QCloseEvent>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+#include <algorithm>
+
+#include "ui/controles/BotonDialogo.h"
+#include "ui/controles/Estilo.h"
+#include "ui/controles/Pulsador.h"
+
+namespace vedrano {
+
+using namespace controles;
+
+namespace {
+
+std::function<void(int)>& Ayuda() {
+    static std::function<void(int)> ayuda;
+    return ayuda;
+}
+
+constexpr int MARGEN = 14, ALTO_TITULO = 24, LADO_ICONO = 32, ANCHO_TEXTO = 380, ANCHO_BOTON = 92;
+
+}  // namespace
+
+void FijaAyudaMensajes(std::function<void(int)> ayuda) { Ayuda() = std::move(ayuda); }
+
+int16_t MuestraMensaje(Estado& e, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
+                       int16_t botones, int16_t icono, int16_t ayuda) {
+    Mensajes m(e, padre, textoCp1252, tituloCp1252, botones, icono, ayuda);
+    m.exec();
+    return e.RespuestaMensaje;
+}
+
+Mensajes::Mensajes(Estado& e, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
+                   int16_t botones, int16_t icono, int16_t ayuda)
+    : QDialog(padre, Qt::Dialog | Qt::FramelessWindowHint),
+      e_(e),
+      texto_(Texto(textoCp1252).replace(QStringLiteral("\r\n"), QStringLiteral("\n"))),
+      titulo_(Texto(tituloCp1252).trimmed()),
+      botones_(botones),
+      icono_(icono),
+      tema_(ayuda) {
+    setModal(true);
+    setWindowTitle(titulo_);
+    setFont(FuenteControles());
+
+    const bool conIcono = icono_ == 1 || icono_ == 2 || icono_ == 3 || icono_ == 6;
+    const QFontMetrics fm(FuenteControles());
+    const QRect medida = fm.boundingRect(QRect(0, 0, ANCHO_TEXTO, 10000), Qt::TextWordWrap, texto_);
+    const int izquierdaTexto = MARGEN + (conIcono ? LADO_ICONO + MARGEN : 0);
+    const int altoCuerpo = std::max(conIcono ? LADO_ICONO : 0, medida.height());
+    const int anchoBotones = (botones_ == 2 ? 2 * ANCHO_BOTON + MARGEN : ANCHO_BOTON) + (tema_ ? 2 * (32 + MARGEN) : 0);
+    const int ancho = std::max({izquierdaTexto + medida.width() + 2 * MARGEN, anchoBotones + 2 * MARGEN,
+                                fm.horizontalAdvance(titulo_) + 6 * MARGEN, 280});
+    const int arribaCuerpo = ALTO_TITULO + MARGEN;
+    areaTexto_ = QRect(izquierdaTexto, arribaCuerpo + std::max(0, (altoCuerpo - medida.height()) / 2),
+                       ancho - izquierdaTexto - MARGEN, medida.height());
+    const int filaBotones = arribaCuerpo + altoCuerpo + MARGEN + 4;
+    const int alto = filaBotones + 32 + MARGEN - 4;
+    setFixedSize(ancho, alto);
+
+    aceptar_ = new Pulsador(e_, 46, this);
+    aceptar_->setSonidoUnico(9);
+    aceptar_->resize(ANCHO_BOTON, aceptar_->height());
+    connect(aceptar_, &Pulsador::accionado, this, [this] { responde(-1); });
+    const int yPulsador = filaBotones + (32 - aceptar_->height()) / 2;
+    if (botones_ == 2) {
+        cancelar_ = new Pulsador(e_, 47, this);
+        cancelar_->setSonidoUnico(9);
+        cancelar_->resize(ANCHO_BOTON, cancelar_->height());
+        connect(cancelar_, &Pulsador::accionado, this, [this] { responde(0); });
+        const int x0 = (ancho - 2 * ANCHO_BOTON - MARGEN) / 2;
+        aceptar_->move(x0, yPulsador);
+        cancelar_->move(x0 + ANCHO_BOTON + MARGEN, yPulsador);
+    } else {
+        aceptar_->move((ancho - ANCHO_BOTON) / 2, yPulsador);
+    }
+    if (tema_ != 0) {
+        ayuda_ = new BotonDialogo(e_, BotonDialogo::Tipo::Ayuda, this);
+        ayuda_->move(ancho - MARGEN - 32, filaBotones);
+        ayuda_->setToolTip(QStringLiteral(" Ayuda "));
+        connect(ayuda_, &BotonDialogo::pulsado, this, [this] {
+            if (Ayuda()) Ayuda()(tema_);
+        });
+    }
+}
+
+void Mensajes::showEvent(QShowEvent* ev) {
+    // Centred on the window that asked, or on the screen without one.
+    QRect sobre;
+    if (parentWidget())
+        sobre = parentWidget()->window()->frameGeometry();
+    else if (QScreen* s = QGuiApplication::primaryScreen())
+        sobre = s->availableGeometry();
+    if (sobre.isValid()) move(sobre.center() - QPoint(width() / 2, height() / 2));
+    QDialog::showEvent(ev);
+}
+
+void Mensajes::responde(int16_t respuesta) {
+    if (respondido_) return;
+    respondido_ = true;
+    e_.RespuestaMensaje = respuesta;
+    done(respuesta != 0 ? QDialog::Accepted : QDialog::Rejected);
+}
+
+void Mensajes::keyPressEvent(QKeyEvent* ev) {
+    switch (ev->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            aceptar_->pulsa();
+            break;
+        case Qt::Key_Escape:
+            if (cancelar_)
+                cancelar_->pulsa();
+            else
+                aceptar_->pulsa();
+            break;
+        default:
+            QDialog::keyPressEvent(ev);
+    }
+}
+
+void Mensajes::closeEvent(QCloseEvent* ev) {
+    // Closing answers as Esc does: cancel when there is a cancel button.
+    if (!respondido_) {
+        respondido_ = true;
+        e_.RespuestaMensaje = botones_ == 2 ? 0 : -1;
+        setResult(botones_ == 2 ? QDialog::Rejected : QDialog::Accepted);
+    }
+    QDialog::closeEvent(ev);
+}
+
+void Mensajes::mousePressEvent(QMouseEvent* ev) {
+    agarre_ = ev->position().y() < ALTO_TITULO ? ev->globalPosition().toPoint() - frameGeometry().topLeft() : QPoint();
+}
+
+void Mensajes::mouseMoveEvent(QMouseEvent* ev) {
+    // The title bar is drawn by the box itself, so it moves the box.
+    if ((ev->buttons() & Qt::LeftButton) && !agarre_.isNull()) move(ev->globalPosition().toPoint() - agarre_);
+}
+
+void Mensajes::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    const QRect r = rect();
+    p.fillRect(r, GRIS_CLARO);
+    // Raised outer bevel.
+    p.setPen(QColor(0, 0, 0));
+    p.drawLine(r.left(), r.bottom(), r.right(), r.bottom());
+    p.drawLine(r.right(), r.top(), r.right(), r.bottom());
+    p.setPen(BLANCO);
+    p.drawLine(r.left(), r.top(), r.right() - 1, r.top());
+    p.drawLine(r.left(), r.top(), r.left(), r.bottom() - 1);
+    p.setPen(GRIS_OSCURO);
+    p.drawLine(r.left() + 1, r.bottom() - 1, r.right() - 1, r.bottom() - 1);
+    p.drawLine(r.right() - 1, r.top() + 1, r.right() - 1, r.bottom() - 1);
+    // Title, embossed, over an etched rule.
+    QFont negrita = FuenteControles();
+    negrita.setBold(true);
+    p.setFont(negrita);
+    const QFontMetrics fm(negrita);
+    const int xTitulo = (r.width() - fm.horizontalAdvance(titulo_)) / 2;
+    p.setPen(BLANCO);
+    p.drawText(xTitulo, 5 + fm.ascent(), titulo_);
+    p.setPen(AZUL);
+    p.drawText(xTitulo + 1, 6 + fm.ascent(), titulo_);
+    p.setPen(GRIS_OSCURO);
+    p.drawLine(6, ALTO_TITULO, r.width() - 8, ALTO_TITULO);
+    p.setPen(BLANCO);
+    p.drawLine(7, ALTO_TITULO + 1, r.width() - 7, ALTO_TITULO + 1);
+
+    dibujaIcono(p, QRect(MARGEN, ALTO_TITULO + MARGEN, LADO_ICONO, LADO_ICONO));
+    p.setFont(FuenteControles());
+    p.setPen(QColor(0, 0, 0));
+    p.drawText(areaTexto_, Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop, texto_);
+}
+
+void Mensajes::dibujaIcono(QPainter& p, QRect a) const {
+    if (!(icono_ == 1 || icono_ == 2 || icono_ == 3 || icono_ == 6)) return;
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing);
+    const QRectF c = QRectF(a).adjusted(1, 1, -1, -1);
+    QFont signo = FuenteControles();
+    signo.setPixelSize(22);
+    signo.setBold(true);
+    p.setFont(signo);
+    if (icono_ == 6) {
+        QPainterPath triangulo;
+        triangulo.moveTo(c.center().x(), c.top());
+        triangulo.lineTo(c.right(), c.bottom());
+        triangulo.lineTo(c.left(), c.bottom());
+        triangulo.closeSubpath();
+        p.setPen(QPen(QColor(0, 0, 0), 1.5));
+        p.setBrush(QColor(255, 220, 0));
+        p.drawPath(triangulo);
+        p.setPen(QColor(0, 0, 0));
+        p.drawText(c.adjusted(0, 6, 0, 0), Qt::AlignCenter, QStringLiteral("!"));
+    } else {
+        const QColor fondo = icono_ == 1 ? QColor(200, 0, 0) : QColor(0, 0, 200);
+        p.setPen(QPen(fondo.darker(150), 1.5));
+        p.setBrush(fondo);
+        p.drawEllipse(c);
+        p.setPen(QPen(BLANCO, 3.5, Qt::SolidLine, Qt::RoundCap));
+        if (icono_ == 1) {
+            const QPointF m = c.center();
+            p.drawLine(m + QPointF(-7, -7), m + QPointF(7, 7));
+            p.drawLine(m + QPointF(-7, 7), m + QPointF(7, -7));
+        } else {
+            p.drawText(c, Qt::AlignCenter, icono_ == 2 ? QStringLiteral("i") : QStringLiteral("?"));
+        }
+    }
+    p.restore();
+}
+
+}  // namespace vedrano

@@ -1,0 +1,37 @@
+#include "ui/controles/BotonDialogo.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "ui/controles/Estilo.h"
+
+namespace vedrano::controles {
+
+BotonDialogo::BotonDialogo(Estado& e, Tipo tipo, QWidget* padre)
+    : ControlDibujado(e, 0, padre), tipo_(tipo) {
+    setFixedSize(32, 32);
+}
+
+void BotonDialogo::pinta(QPainter& p) {
+    const int x = celda::BOTON_X0 + celda::BOTON_PASO * static_cast<int>(tipo_);
+    CopiaCelda(p, {0, 0}, QRect(x, abajo_ ? celda::BOTON_PULSADO_Y : 0, celda::BOTON_LADO, celda::BOTON_LADO));
+}
+
+void BotonDialogo::mousePressEvent(QMouseEvent* ev) {
+    if (ev->button() != Qt::LeftButton) return;
+    abajo_ = true;
+    repaint();
+}
+
+void BotonDialogo::mouseMoveEvent(QMouseEvent*) { cambiaCursor(21); }
+
+void BotonDialogo::mouseReleaseEvent(QMouseEvent* ev) {
+    if (ev->button() != Qt::LeftButton) return;
+    abajo_ = false;
+    repaint();
+    if (!rect().contains(ev->position().toPoint())) return;
+    if (tipo_ != Tipo::Ayuda) Suena(e_, 0, 9);
+    emit pulsado();
+}
+
+}  // namespace vedrano::controles

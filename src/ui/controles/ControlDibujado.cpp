@@ -1,0 +1,49 @@
+#include "ui/controles/ControlDibujado.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+
+#include "app/TablasControles.h"
+#include "platform/Pausa.h"
+#include "platform/Sonido.h"
+#include "platform/qt/Cursores.h"
+#include "ui/controles/Estilo.h"
+
+namespace vedrano::controles {
+
+void FijaCursor(Estado& e, QWidget* w, int16_t numero) {
+    if (numero == 0)
+        w->unsetCursor();
+    else
+        w->setCursor(plataforma::CursorNumero(numero));
+    e.CursorActual = numero;
+}
+
+void Suena(const Estado& e, int modo, int numero) { plataforma::TocaSonido(e.Sonido, modo, numero); }
+
+void Espera(const Estado& e, double milisegundos) { plataforma::Retardo(e.Velocidad, milisegundos); }
+
+void AtiendeEventos() { QCoreApplication::processEvents(QEventLoop::AllEvents); }
+
+ControlDibujado::ControlDibujado(Estado& e, int indice, QWidget* padre)
+    : QWidget(padre), e_(e), indice_(indice) {
+    setFont(FuenteControles());
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void ControlDibujado::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.fillRect(rect(), GRIS_CLARO);
+    pinta(p);
+}
+
+void ControlDibujado::leaveEvent(QEvent*) { cambiaCursor(0); }
+
+QString ControlDibujado::etiqueta() const { return Texto(Etiqueta(indice_)).trimmed(); }
+
+void ControlDibujado::cambiaCursor(int16_t numero) {
+    if (e_.CursorActual != numero) fijaCursor(numero);
+}
+
+}  // namespace vedrano::controles

@@ -1,0 +1,50 @@
+// The base of every custom-drawn control: it knows the application state
+// (for the flags, the sound option and the current cursor) and its index
+// in its control array, which keys the label and value tables. Each kind
+// paints itself completely from the control bitmap in `pinta`.
+#pragma once
+#include <QWidget>
+#include <cstdint>
+
+#include "app/Estado.h"
+
+class QPainter;
+
+namespace vedrano::controles {
+
+// Sets pointer `numero` (21..25 the program's own, below 20 the standard
+// ones, 0 the default) on `w` and records it as the current cursor.
+void FijaCursor(Estado& e, QWidget* w, int16_t numero);
+
+// Plays click sound `numero` if the sound option is on (mode 1 does not
+// wait for it).
+void Suena(const Estado& e, int modo, int numero);
+
+// Waits `milisegundos` scaled by the speed setting; no event runs.
+void Espera(const Estado& e, double milisegundos);
+
+// Lets the pending window events run, once per step of a repeat loop.
+void AtiendeEventos();
+
+class ControlDibujado : public QWidget {
+    Q_OBJECT
+public:
+    ControlDibujado(Estado& e, int indice, QWidget* padre);
+    int indice() const { return indice_; }
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    // Leaving the control gives the default pointer back.
+    void leaveEvent(QEvent*) override;
+    virtual void pinta(QPainter& p) = 0;
+    // The label of this control from the label table.
+    QString etiqueta() const;
+    void fijaCursor(int16_t numero) { FijaCursor(e_, this, numero); }
+    // Sets `numero` only when another pointer is the current one.
+    void cambiaCursor(int16_t numero);
+
+    Estado& e_;
+    const int indice_;
+};
+
+}  // namespace vedrano::controles

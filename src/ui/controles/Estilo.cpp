@@ -1,0 +1,78 @@
+#include "ui/controles/Estilo.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+#include "app/Texto1252.h"
+
+namespace vedrano::controles {
+
+const QPixmap& MapaControles() {
+    static const QPixmap mapa(QStringLiteral(":/controles.png"));
+    return mapa;
+}
+
+QFont FuenteControles() {
+    QFont f;
+    // Helvetica-like faces keep the widths of the classic dialog font.
+    f.setFamilies({QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif"),
+                   QStringLiteral("Nimbus Sans"), QStringLiteral("Liberation Sans"),
+                   QStringLiteral("DejaVu Sans")});
+    f.setPixelSize(11);
+    f.setStyleHint(QFont::SansSerif);
+    return f;
+}
+
+QString Texto(const std::string& cp1252) { return QString::fromStdString(DesdeA1252(cp1252)); }
+
+void CopiaCelda(QPainter& p, QPoint destino, const QRect& fuente) {
+    p.drawPixmap(destino, MapaControles(), fuente);
+}
+
+void ImprimeEtiqueta(QPainter& p, int x, int y, const QString& texto, bool transparente) {
+    p.setFont(FuenteControles());
+    QFontMetrics fm(p.font());
+    const int base = y + fm.ascent();
+    if (!transparente) p.fillRect(QRect(x, y, fm.horizontalAdvance(texto) + 1, fm.height()), GRIS_CLARO);
+    p.setPen(BLANCO);
+    p.drawText(x, base, texto);
+    p.setPen(AZUL);
+    p.drawText(x + 1, base + 1, texto);
+}
+
+void DibujaRotulo(QPainter& p, const QRect& area, const QString& texto) {
+    p.fillRect(area, GRIS_CLARO);
+    const QString recortado = texto.trimmed();
+    QFontMetrics fm(FuenteControles());
+    // With a caption the frame starts at the middle of the caption's height.
+    const int arriba = area.top() + (recortado.isEmpty() ? 0 : fm.height() / 2);
+    const QRect marco(area.left(), arriba, area.width() - 2, area.bottom() - arriba - 1);
+    p.setPen(GRIS_OSCURO);
+    p.drawRect(marco);
+    p.setPen(BLANCO);
+    p.drawRect(marco.translated(1, 1));
+    if (!recortado.isEmpty())
+        ImprimeEtiqueta(p, area.left() + 6, area.top(), QStringLiteral(" ") + recortado + QStringLiteral("  "),
+                        false);
+}
+
+void DibujaFlechas(QPainter& p, QPoint origen, int encendida) {
+    CopiaCelda(p, origen, celda::FLECHAS);
+    if (encendida > 0) CopiaCelda(p, origen, celda::ARRIBA_LUZ);
+    if (encendida < 0) CopiaCelda(p, origen + QPoint(0, 10), celda::ABAJO_LUZ);
+}
+
+void DibujaCara(QPainter& p, int ancho, bool pulsada) {
+    const int fila = pulsada ? celda::CARA_FILA_PULSADA : celda::CARA_FILA_SUELTA;
+    const int alto = celda::CARA_ALTO;
+    if (ancho > celda::CARA_ANCHO) {
+        CopiaCelda(p, {0, 0}, QRect(0, fila, 129, alto));
+        // Column 127 is plain face: repeating it stretches the button.
+        for (int x = 27; x <= ancho - 3; ++x) CopiaCelda(p, {x, 0}, QRect(127, fila, 1, alto));
+    } else {
+        CopiaCelda(p, {0, 0}, QRect(0, fila, celda::CARA_ANCHO, alto));
+    }
+    CopiaCelda(p, {ancho - 2, 0}, QRect(129, fila, 2, alto));
+}
+
+}  // namespace vedrano::controles

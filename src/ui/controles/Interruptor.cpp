@@ -1,0 +1,39 @@
+#include "ui/controles/Interruptor.h"
+
+#include <QFontMetrics>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "ui/controles/Estilo.h"
+
+namespace vedrano::controles {
+
+Interruptor::Interruptor(Estado& e, int indice, QWidget* padre) : ControlDibujado(e, indice, padre) {
+    etiqueta();  // an index outside the table fails here, not at the first paint
+    resize(sizeHint());
+}
+
+void Interruptor::setEncendido(bool si) {
+    encendido_ = si;
+    repaint();
+}
+
+QSize Interruptor::sizeHint() const {
+    return {24 + QFontMetrics(FuenteControles()).horizontalAdvance(etiqueta()) + 10, 23};
+}
+
+void Interruptor::pinta(QPainter& p) {
+    DibujaRotulo(p, rect(), QString());
+    CopiaCelda(p, {4, 3}, encendido_ ? celda::INTERRUPTOR_SI : celda::INTERRUPTOR_NO);
+    ImprimeEtiqueta(p, 24, 4, etiqueta());
+}
+
+void Interruptor::mouseMoveEvent(QMouseEvent*) { cambiaCursor(21); }
+
+void Interruptor::mouseReleaseEvent(QMouseEvent* ev) {
+    if (ev->button() != Qt::LeftButton || !rect().contains(ev->position().toPoint())) return;
+    setEncendido(!encendido_);
+    emit cambiado(encendido_);
+}
+
+}  // namespace vedrano::controles

@@ -1,0 +1,30 @@
+// The switch (Pic_Buleano): the on or off cell and its label. A click
+// turns it over and reports the new value; the form binds it to its flag.
+#pragma once
+#include "ui/controles/ControlDibujado.h"
+
+namespace vedrano::controles {
+
+class Interruptor : public ControlDibujado {
+    Q_OBJECT
+public:
+    // The label is entry `indice` of the label table.
+    Interruptor(Estado& e, int indice, QWidget* padre = nullptr);
+    bool encendido() const { return encendido_; }
+    void setEncendido(bool si);
+    QSize sizeHint() const override;
+
+signals:
+    // After a click, with the new value.
+    void cambiado(bool encendido);
+
+protected:
+    void pinta(QPainter& p) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent* ev) override;
+
+private:
+    bool encendido_ = false;
+};
+
+}  // namespace vedrano::controles

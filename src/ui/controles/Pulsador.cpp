@@ -1,0 +1,52 @@
+#include "ui/controles/Pulsador.h"
+
+#include <QFontMetrics>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+
+#include "ui/controles/Estilo.h"
+
+namespace vedrano::controles {
+
+Pulsador::Pulsador(Estado& e, int indice, QWidget* padre) : ControlDibujado(e, indice, padre) {
+    etiqueta();
+    resize(sizeHint());
+}
+
+QSize Pulsador::sizeHint() const {
+    return {std::max(80, QFontMetrics(FuenteControles()).horizontalAdvance(etiqueta()) + 24), celda::CARA_ALTO};
+}
+
+void Pulsador::dibuja(bool pulsado, bool conSonido) {
+    pulsado_ = pulsado;
+    e_.FilaPulsador = static_cast<int16_t>(pulsado ? celda::CARA_FILA_PULSADA : celda::CARA_FILA_SUELTA);
+    repaint();
+    if (conSonido && sonidoUnico_ == 0) Suena(e_, 0, pulsado ? 6 : 7);
+    if (pulsado) Espera(e_, 210);
+}
+
+void Pulsador::pinta(QPainter& p) {
+    DibujaCara(p, width(), pulsado_);
+    const QString texto = etiqueta();
+    const int x = (width() - QFontMetrics(FuenteControles()).horizontalAdvance(texto)) / 2 - 1;
+    // A pressed face moves its label with it.
+    const int d = pulsado_ ? 1 : 0;
+    ImprimeEtiqueta(p, x + d, 5 + d, texto);
+}
+
+void Pulsador::pulsa() {
+    QPointer<Pulsador> vivo(this);
+    dibuja(true, true);
+    dibuja(false, true);
+    if (sonidoUnico_ != 0) Suena(e_, 0, sonidoUnico_);
+    if (vivo) emit accionado();
+}
+
+void Pulsador::mouseMoveEvent(QMouseEvent*) { cambiaCursor(21); }
+
+void Pulsador::mouseReleaseEvent(QMouseEvent* ev) {
+    if (ev->button() == Qt::LeftButton && rect().contains(ev->position().toPoint())) pulsa();
+}
+
+}  // namespace vedrano::controles

@@ -1,0 +1,41 @@
+// The push button (Pic_Pulsador): the button face stretched to the
+// control's width with its label centred. Releasing the mouse over it
+// shows it pressed (sound 6, a 210 ms pause), then released (sound 7),
+// and only then reports the action.
+#pragma once
+#include <string>
+
+#include "ui/controles/ControlDibujado.h"
+
+namespace vedrano::controles {
+
+class Pulsador : public ControlDibujado {
+    Q_OBJECT
+public:
+    // The label is entry `indice` of the label table.
+    Pulsador(Estado& e, int indice, QWidget* padre = nullptr);
+
+    // Draws the face pressed or released, recording its face row in the
+    // state; with sound, 6 going down (then the pause) and 7 coming up.
+    void dibuja(bool pulsado, bool conSonido);
+    // The press of a click: down, up, then `accionado`.
+    void pulsa();
+    // Replaces the two press sounds by one sound played after the press
+    // (0 restores them).
+    void setSonidoUnico(int numero) { sonidoUnico_ = numero; }
+    QSize sizeHint() const override;
+
+signals:
+    void accionado();
+
+protected:
+    void pinta(QPainter& p) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent* ev) override;
+
+private:
+    bool pulsado_ = false;
+    int sonidoUnico_ = 0;
+};
+
+}  // namespace vedrano::controles

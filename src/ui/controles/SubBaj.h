@@ -1,0 +1,41 @@
+// The arrow pair of the main window (Pic_SubBaj): a caption and two
+// arrow keys, the left one (decrease) at (11, 14) and the right one
+// (increase) at (38, 14). The widget draws and reports; the hold-to-repeat
+// loop belongs to the window. Over the active band (x 10..53, y 12..22)
+// the pointer is "ManoIndice" (21), elsewhere the default.
+#pragma once
+#include <string>
+
+#include "ui/controles/ControlDibujado.h"
+
+namespace vedrano::controles {
+
+class SubBaj : public ControlDibujado {
+    Q_OBJECT
+public:
+    // `rotulo` in Windows-1252 ("Dirección", ...).
+    SubBaj(Estado& e, int indice, std::string rotulo, QWidget* padre = nullptr);
+    // 1 the left arrow lit, 0 the right one, anything else neither.
+    void dibuja(int estado);
+    int estadoDibujado() const { return estado_; }
+    static bool enBanda(QPoint p) { return p.x() >= 10 && p.x() <= 53 && p.y() >= 12 && p.y() <= 22; }
+    QSize sizeHint() const override;
+
+signals:
+    void pulsado(int x);                 // a left press, with its x (left arrow when x < 33)
+    void movido(int x, int y, bool enBanda);  // pointer moves; (-1, -1, false) when it leaves
+    void soltado();
+
+protected:
+    void pinta(QPainter& p) override;
+    void mousePressEvent(QMouseEvent* ev) override;
+    void mouseMoveEvent(QMouseEvent* ev) override;
+    void mouseReleaseEvent(QMouseEvent* ev) override;
+    void leaveEvent(QEvent*) override;
+
+private:
+    std::string rotulo_;
+    int estado_ = -1;
+};
+
+}  // namespace vedrano::controles

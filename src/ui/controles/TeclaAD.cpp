@@ -1,0 +1,63 @@
+#include "ui/controles/TeclaAD.h"
+
+#include <QFontMetrics>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+
+#include "ui/controles/Estilo.h"
+
+namespace vedrano::controles {
+
+TeclaAD::TeclaAD(Estado& e, int indice, std::string etiqueta, QWidget* padre)
+    : ControlDibujado(e, indice, padre), texto_(std::move(etiqueta)) {
+    resize(sizeHint());
+}
+
+QSize TeclaAD::sizeHint() const {
+    return {std::max(40, QFontMetrics(FuenteControles()).horizontalAdvance(Texto(texto_)) + 10), 44};
+}
+
+void TeclaAD::pinta(QPainter& p) {
+    DibujaRotulo(p, rect(), QString());
+    DibujaFlechas(p, origenFlechas(), encendida_);
+    const QString t = Texto(texto_);
+    ImprimeEtiqueta(p, (width() - QFontMetrics(FuenteControles()).horizontalAdvance(t)) / 2 - 1, 27, t);
+}
+
+bool TeclaAD::sobreFlechas(QPoint p) const {
+    const QPoint o = origenFlechas();
+    return p.x() >= o.x() && p.x() < o.x() + 17 && p.y() >= o.y() && p.y() <= o.y() + 20;
+}
+
+void TeclaAD::mouseMoveEvent(QMouseEvent* ev) {
+    if (sobreFlechas(ev->position().toPoint())) {
+        cambiaCursor(21);
+    } else {
+        cambiaCursor(0);
+        e_.SujecionSpin = false;
+    }
+}
+
+void TeclaAD::mouseReleaseEvent(QMouseEvent*) { e_.SujecionSpin = false; }
+
+void TeclaAD::mousePressEvent(QMouseEvent* ev) {
+    if (ev->button() != Qt::LeftButton || e_.CursorActual != 21) return;
+    const int sentido = ev->position().y() <= origenFlechas().y() + 10 ? 1 : -1;
+    QPointer<TeclaAD> vivo(this);
+    e_.SujecionSpin = true;
+    emit pulsada(sentido);
+    while (vivo && e_.SujecionSpin) {
+        encendida_ = sentido;
+        repaint();
+        Suena(e_, 1, 4);
+        if (paso_) paso_(sentido);
+        Espera(e_, 40);
+        encendida_ = 0;
+        repaint();
+        AtiendeEventos();
+    }
+    if (vivo) emit soltada();
+}
+
+}  // namespace vedrano::controles
