@@ -1,0 +1,100 @@
+// The message box answered the ways a user can: each button of both sets,
+// Esc, closing, and the help button with its topic.
+#include <gtest/gtest.h>
+
+#include <QKeyEvent>
+#include <QTimer>
+#include <functional>
+
+#include "../ui/EntornoQt.h"
+#include "../ui/Falsos.h"
+#include "dialogs/Mensajes.h"
+#include "dialogs/MensajesVentana.h"
+#include "ui/controles/BotonDialogo.h"
+#include "ui/controles/Pulsador.h"
+
+using namespace vedrano;
+
+namespace {
+
+// Runs `accion` on the message box once it is up and modal.
+void CuandoAparezca(std::function<void(Mensajes&)> accion) {
+    auto* t = new QTimer;
+    t->setInterval(5);
+    QObject::connect(t, &QTimer::timeout, [t, accion] {
+        if (auto* m = qobject_cast<Mensajes*>(QApplication::activeModalWidget())) {
+            t->stop();
+            t->deleteLater();
+            accion(*m);
+        }
+    });
+    t->start();
+}
+
+void Pulsa(QWidget* w) { pruebas::Clic(w, QPoint(w->width() / 2, w->height() / 2)); }
+
+void Tecla(QWidget* w, int tecla) {
+    QKeyEvent ev(QEvent::KeyPress, tecla, Qt::NoModifier);
+    QCoreApplication::sendEvent(w, &ev);
+}
+
+class Mensaje : public ::testing::Test {
+protected:
+    void SetUp() override { e.Velocidad = 100; }
+    Estado e;
+    pruebas::Falsos f;
+    const std::string texto = "Primera l\xEDnea\r\nSegunda l\xEDnea";
+};
+
+TEST_F(Mensaje, BotonesDeLosDosJuegos) {
+    e.RespuestaMensaje = 0;
+    CuandoAparezca([](Mensajes& m) {
+        EXPECT_EQ(m.botonCancelar(), nullptr);
+        Pulsa(m.botonAceptar());
+    });
+    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Aviso", 1, 2), -1);
+    EXPECT_EQ(e.RespuestaMensaje, -1);
+
+    CuandoAparezca([](Mensajes& m) { Pulsa(m.botonCancelar()); });
+    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Pregunta", 2, 6), 0);
+    EXPECT_EQ(e.RespuestaMensaje, 0);
+
+    CuandoAparezca([](Mensajes& m) { Pulsa(m.botonAceptar()); });
+    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Pregunta", 2, 6), -1);
+}
+
+TEST_F(Mensaje, EscYCerrarCancelanSoloSiHayCancelar) {
+    e.RespuestaMensaje = 0;
+    CuandoAparezca([](Mensajes& m) { Tecla(&m, Qt::Key_Escape); });
+    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Aviso", 1, 1), -1);
+
+    CuandoAparezca([](Mensajes& m) { Tecla(&m, Qt::Key_Escape); });
+    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Pregunta", 2, 3), 0);
+
+    e.RespuestaMensaje = -1;
+    CuandoAparezca([](Mensajes& m) { m.close(); });
+    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Pregunta", 2, 3), 0);
+
+    CuandoAparezca([](Mensajes& m) { Tecla(&m, Qt::Key_Return); });
+    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Pregunta", 2, 3), -1);
+}
+
+TEST_F(Mensaje, AyudaConSuTemaYAdaptador) {
+    int tema = 0;
+    FijaAyudaMensajes([&](int t) { tema = t; });
+    CuandoAparezca([](Mensajes& m) {
+        ASSERT_NE(m.botonAyuda(), nullptr);
+        Pulsa(m.botonAyuda());
+        Pulsa(m.botonAceptar());
+    });
+    MuestraMensaje(e, nullptr, texto, "VEDRANO 3.2", 1, 3, 1020);
+    EXPECT_EQ(tema, 1020);
+    FijaAyudaMensajes(nullptr);
+
+    // The configuration side hears the answer through the adapter.
+    MensajesVentana v(e, nullptr);
+    CuandoAparezca([](Mensajes& m) { Pulsa(m.botonCancelar()); });
+    EXPECT_EQ(v.Mensaje(texto, "Guardar configuraci\xF3n", 2, 2), 0);
+}
+
+}  // namespace

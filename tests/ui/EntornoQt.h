@@ -1,0 +1,33 @@
+// Shared by the widget tests: the one QApplication, made on first use, and
+// mouse events sent straight to a widget.
+#pragma once
+#include <QApplication>
+#include <QMouseEvent>
+#include <QWidget>
+
+namespace pruebas {
+
+inline void AseguraAplicacion() {
+    if (QApplication::instance()) return;
+    static int argc = 1;
+    static char nombre[] = "vedrano_pruebas_ui";
+    static char* argv[] = {nombre, nullptr};
+    new QApplication(argc, argv);
+}
+
+inline void Raton(QWidget* w, QEvent::Type tipo, QPoint p, Qt::MouseButton boton = Qt::LeftButton) {
+    const Qt::MouseButtons pulsados = tipo == QEvent::MouseButtonPress ? Qt::MouseButtons(boton)
+                                      : tipo == QEvent::MouseMove    ? Qt::MouseButtons(Qt::NoButton)
+                                                                     : Qt::MouseButtons(Qt::NoButton);
+    QMouseEvent ev(tipo, QPointF(p), QPointF(w->mapToGlobal(p)), tipo == QEvent::MouseMove ? Qt::NoButton : boton,
+                   pulsados, Qt::NoModifier);
+    QCoreApplication::sendEvent(w, &ev);
+}
+
+// A click: press and release at the same point.
+inline void Clic(QWidget* w, QPoint p, Qt::MouseButton boton = Qt::LeftButton) {
+    Raton(w, QEvent::MouseButtonPress, p, boton);
+    Raton(w, QEvent::MouseButtonRelease, p, boton);
+}
+
+}  // namespace pruebas
