@@ -1,0 +1,37 @@
+// What every dialog receives from the main window: the state, the
+// catalogues, how to redraw the sky, ask the user, open help, and the
+// window to centre on.
+#pragma once
+#include <QDialog>
+#include <QWidget>
+#include <functional>
+
+#include "app/Estado.h"
+#include "app/InterfazMensajes.h"
+#include "catalogue/Catalogos.h"
+
+namespace vedrano {
+
+struct ContextoDialogo {
+    Estado& e;
+    const Catalogos& c;
+    InterfazMensajes& mensajes;
+    QWidget* cielo;                            // the main window: owner and centre of every dialog
+    std::function<void()> ActualizaCielo;      // full update: time, solar system, scale, view, pass
+    std::function<void()> DibujaCielo;         // the pass with the values already set
+    std::function<void(int)> Ayuda;            // opens the help at a topic number
+    std::function<void()> ArrancaTiempoReal;   // the main window's real-time clock on
+    std::function<void()> ParaTiempoReal;      // and off
+};
+
+// Shows a dialog modally, centred on the main window.
+inline int MuestraCentrado(QDialog& d, QWidget* cielo) {
+    if (cielo) {
+        d.adjustSize();
+        QPoint centro = cielo->mapToGlobal(QPoint(cielo->width() / 2, cielo->height() / 2));
+        d.move(centro.x() - d.width() / 2, centro.y() - d.height() / 2);
+    }
+    return d.exec();
+}
+
+}  // namespace vedrano

@@ -1,0 +1,51 @@
+// The sky picture of the main window: shows the canvas, keeps its size in
+// step with the window, reports the point under the cursor, centres on a
+// left click and marks on a right click.
+#pragma once
+#include <QWidget>
+#include <functional>
+
+#include "app/Estado.h"
+#include "app/InterfazMensajes.h"
+#include "catalogue/Catalogos.h"
+#include "sky/Lienzo.h"
+#include "sky/apunta/Apunta.h"
+
+namespace vedrano {
+
+class VistaCielo : public QWidget {
+    Q_OBJECT
+public:
+    VistaCielo(Estado& e, const Catalogos& c, InterfazMensajes& m, QWidget* padre = nullptr);
+
+    // The full update (time, solar system, scale, view) and the pass.
+    void ActualizaCielo();
+    // The pass alone, with the values already set.
+    void DibujaCielo();
+    const Lienzo& Canvas() const { return lienzo_; }
+    // Screen pixel to the picture's user scale.
+    QPointF AUsuario(const QPointF& pixel) const;
+
+signals:
+    void CursorMovido(const TextosCursor& textos);
+    void VistaCentrada();  // a click centred the view: the panels must follow
+    void Dibujado();       // a pass finished: the information fields can be refreshed
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mousePressEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
+
+private:
+    void DibujaMarca(const QPointF& pixel);
+
+    Estado& e_;
+    const Catalogos& c_;
+    InterfazMensajes& m_;
+    Lienzo lienzo_;
+    QPointF marca_;
+};
+
+}  // namespace vedrano
