@@ -1,0 +1,302 @@
+#include "ui/cielo/Cielo.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+
+#include "app/Texto1252.h"
+#include "astro/TextosAngulo.h"
+#include "config/LeeConfiguracion.h"
+#include "ui/cielo/Paneles.h"
+#include "ui/cielo/PanelLeyenda.h"
+#include "ui/cielo/VistaCielo.h"
+#include "ui/controles/ControlDibujado.h"
+#include "ui/controles/Estilo.h"
+#include "ui/controles/Pulsador.h"
+#include "ui/controles/SubBaj.h"
+
+namespace vedrano {
+
+namespace {
+
+// Fixed sizes of the panels around the sky picture.
+constexpr int ANCHO_IZQUIERDA = 150, ALTO_INFERIOR = 84, ANCHO_LEYENDA = 132;
+
+struct DatosBoton {
+    int izquierda, arriba;
+    const char* ayuda;
+};
+// Place and tooltip of each dialog button (the blanks are part of the text).
+constexpr DatosBoton BOTONES[10] = {{0, 0, ""},
+                                     {15, 10, " Mantenimiento de configuraciones "},
+                                     {78, 10, " Personalizar "},
+                                     {15, 68, " Localización "},
+                                     {78, 68, " Fecha y Hora "},
+                                     {15, 126, " Objetos "},
+                                     {78, 126, " Buscar objetos "},
+                                     {46, 184, " Imprimir "},
+                                     {15, 242, " Ayuda de la aplicación "},
+                                     {78, 242, " Salir de la aplicación "}};
+
+const char* const ROTULOS_SUBBAJ[6] = {"", "Dirección", "Elevación", "Zoom", "Tiempo", "Animación"};
+
+QString Q(const std::string& cp1252) { return QString::fromUtf8(DesdeA1252(cp1252)); }
+
+}  // namespace
+
+Cielo::Cielo(Estado& e, const Catalogos& c, DialogosCielo dialogos)
+    : e_(e),
+      c_(c),
+      dialogos_(std::move(dialogos)),
+      mensajes_(e, this),
+      contexto_{e, c, mensajes_, this, {}, {}, {}, {}, {}} {
+    setWindowTitle("VEDRANO");
+    setFont(controles::FuenteControles());
+    contexto_.ActualizaCielo = [this] { ActualizaCielo(); };
+    contexto_.DibujaCielo = [this] { DibujaCielo(); };
+    contexto_.Ayuda = [this](int tema) {
+        if (dialogos_.Ayuda) dialogos_.Ayuda(this, tema);
+    };
+    contexto_.ArrancaTiempoReal = [this] { ArrancaTiempoReal(); };
+    contexto_.ParaTiempoReal = [this] { ParaTiempoReal(); };
+    Construye();
+    reloj_.setInterval(1000);
+    connect(&reloj_, &QTimer::timeout, this, &Cielo::TicTiempoReal);
+    resize(800, 600);
+    setMinimumSize(640, 480);
+}
+
+Cielo::~Cielo() { e_.Sujecion = e_.Enganche = false; }
+
+void Cielo::Construye() {
+    vista_ = new VistaCielo(e_, c_, mensajes_, this);
+    connect(vista_, &VistaCielo::Dibujado, this, &Cielo::RefrescaCampos);
+    connect(vista_, &VistaCielo::VistaCentrada, this, [this] {
+        RefrescaCampos();
+        pulsador45_->show();
+    });
+
+    // The button panel keeps its own warm colours.
+    panelBotones_ = new Panel(this, QColor(200, 82, 52), QColor(238, 136, 102), QColor(119, 26, 18));
+    panelBotones_->setFixedSize(141, 300);
+    for (int k = 1; k <= 9; ++k) {
+        auto* b = new BotonPanel(e_, k, QString::fromUtf8(BOTONES[k].ayuda), panelBotones_);
+        b->move(BOTONES[k].izquierda, BOTONES[k].arriba);
+        connect(b, &BotonPanel::soltado, this, &Cielo::BotonSoltado);
+        botones_[static_cast<std::size_t>(k)] = b;
+    }
+
+    panelControl_ = new Panel(this);
+    panelControl_->setFixedSize(141, 240);
+    for (int i = 1; i <= 5; ++i) {
+        auto* s = new controles::SubBaj(e_, i, A1252(ROTULOS_SUBBAJ[i]), panelControl_);
+        s->move(3, 5 + 35 * (i - 1));
+        s->resize(135, s->height());
+        s->dibuja(-1);
+        connect(s, &controles::SubBaj::pulsado, this, [this, i](int x) { SubBajPresionado(i, x); });
+        connect(s, &controles::SubBaj::movido, this, [this, i](int, int, bool dentro) { SubBajMovido(i, dentro); });
+        connect(s, &controles::SubBaj::soltado, this, [this] {
+            if (!e_.Enganche) e_.Sujecion = false;
+        });
+        subbaj_[static_cast<std::size_t>(i)] = s;
+    }
+    pulsador44_ = new controles::Pulsador(e_, 44, panelControl_);
+    pulsador44_->setGeometry(3, 180, 135, 23);
+    connect(pulsador44_, &controles::Pulsador::accionado, this, [this] { PulsadorAccionado(44); });
+    pulsador45_ = new controles::Pulsador(e_, 45, panelControl_);
+    pulsador45_->setGeometry(3, 207, 135, 23);
+    connect(pulsador45_, &controles::Pulsador::accionado, this, [this] { PulsadorAccionado(45); });
+    pulsador45_->hide();
+
+    tiempoReal_ = new CampoInfo(this);
+    tiempoReal_->FijaTexto(QString::fromUtf8("Animación tiempo real"));
+    connect(tiempoReal_, &CampoInfo::pulsado, this, [this] { PulsadorAccionado(44); });
+
+    panelLocalizacion_ = new Panel(this);
+    auto campo = [this](QWidget* padre, int abre) {
+        auto* f = new CampoInfo(padre);
+        connect(f, &CampoInfo::pulsado, this, [this, abre] { BotonSoltado(abre); });
+        return f;
+    };
+    loca_ = campo(panelLocalizacion_, 3);
+    longi_ = campo(panelLocalizacion_, 3);
+    lati_ = campo(panelLocalizacion_, 3);
+    direc_ = campo(panelLocalizacion_, 3);
+    eleva_ = campo(panelLocalizacion_, 3);
+    zoom_ = campo(panelLocalizacion_, 3);
+    fecUni_ = campo(panelLocalizacion_, 4);
+    horUni_ = campo(panelLocalizacion_, 4);
+    fecLoc_ = campo(panelLocalizacion_, 4);
+    horLoc_ = campo(panelLocalizacion_, 4);
+    fecJul_ = campo(panelLocalizacion_, 4);
+
+    panelCursor_ = new Panel(this);
+    aRecta_ = new CampoInfo(panelCursor_);
+    dec_ = new CampoInfo(panelCursor_);
+    altitud_ = new CampoInfo(panelCursor_);
+    azimut_ = new CampoInfo(panelCursor_);
+    connect(vista_, &VistaCielo::CursorMovido, this, [this](const TextosCursor& t) {
+        aRecta_->FijaTexto(Q(" " + t.AR));
+        dec_->FijaTexto(Q(" " + t.DEC));
+        altitud_->FijaTexto(Q(" " + t.Altitud));
+        azimut_->FijaTexto(Q(" " + t.Azimut));
+    });
+
+    panelObjetos_ = new Panel(this);
+    leyenda_ = new PanelLeyenda(e_, panelObjetos_);
+}
+
+void Cielo::Coloca() {
+    const int W = width(), H = height();
+    const bool control = e_.PanelControl, localizacion = e_.PanelLocalizacion, cursor = e_.PanelCursor,
+               objetos = e_.PanelObjetos;
+    int izquierda = ANCHO_IZQUIERDA;
+    panelBotones_->move(4, 4);
+    panelControl_->setVisible(control);
+    panelControl_->move(4, 308);
+    tiempoReal_->setGeometry(4, 552, 141, 20);
+    tiempoReal_->setVisible(control);
+
+    const bool inferior = localizacion || cursor;
+    const int alto = inferior ? H - ALTO_INFERIOR : H;
+    const int derecha = objetos ? W - ANCHO_LEYENDA : W;
+    vista_->setGeometry(izquierda, 0, derecha - izquierda, alto);
+
+    panelObjetos_->setVisible(objetos);
+    panelObjetos_->setGeometry(W - ANCHO_LEYENDA, 0, ANCHO_LEYENDA, alto);
+    leyenda_->setGeometry(3, 3, ANCHO_LEYENDA - 6, std::min(alto - 6, 27 * PanelLeyenda::ALTO_LINEA + 8));
+
+    const int anchoCursor = 190;
+    panelLocalizacion_->setVisible(localizacion);
+    panelLocalizacion_->setGeometry(izquierda, H - ALTO_INFERIOR, W - izquierda - (cursor ? anchoCursor : 0),
+                                    ALTO_INFERIOR);
+    const int columna = (panelLocalizacion_->width() - 8) / 3;
+    auto fila = [&](int y, CampoInfo* a, CampoInfo* b, CampoInfo* c) {
+        a->setGeometry(4, y, columna - 2, 22);
+        b->setGeometry(4 + columna, y, columna - 2, 22);
+        c->setGeometry(4 + 2 * columna, y, columna - 2, 22);
+    };
+    fila(5, loca_, longi_, lati_);
+    fila(30, direc_, eleva_, zoom_);
+    const int anchoHora = 62;
+    fecUni_->setGeometry(4, 55, columna - anchoHora - 3, 22);
+    horUni_->setGeometry(4 + columna - anchoHora - 1, 55, anchoHora - 1, 22);
+    fecLoc_->setGeometry(4 + columna, 55, columna - anchoHora - 3, 22);
+    horLoc_->setGeometry(4 + 2 * columna - anchoHora - 1, 55, anchoHora - 1, 22);
+    fecJul_->setGeometry(4 + 2 * columna, 55, columna - 2, 22);
+
+    panelCursor_->setVisible(cursor);
+    panelCursor_->setGeometry(W - anchoCursor, H - ALTO_INFERIOR, anchoCursor, ALTO_INFERIOR);
+    int y = 4;
+    for (CampoInfo* f : {aRecta_, dec_, altitud_, azimut_}) {
+        f->setGeometry(4, y, anchoCursor - 8, 18);
+        y += 19;
+    }
+}
+
+void Cielo::resizeEvent(QResizeEvent*) { Coloca(); }
+
+void Cielo::ActualizaCielo() {
+    Coloca();
+    vista_->ActualizaCielo();
+}
+
+void Cielo::DibujaCielo() {
+    Coloca();
+    vista_->DibujaCielo();
+}
+
+void Cielo::RefrescaCampos() {
+    const PanelInformacion& p = e_.Panel;
+    fecJul_->FijaTexto(Q(p.DiaJuliano));
+    fecUni_->FijaTexto(Q(p.FechaUniversal));
+    horUni_->FijaTexto(Q(p.HoraUniversal));
+    fecLoc_->FijaTexto(Q(p.FechaLocal));
+    horLoc_->FijaTexto(Q(p.HoraLocal));
+    direc_->FijaTexto(Q(p.Direccion));
+    eleva_->FijaTexto(Q(p.Elevacion));
+    zoom_->FijaTexto(Q(p.Zoom));
+    longi_->FijaTexto(Q(" " + TextoLongitud(e_.Longitud)));
+    lati_->FijaTexto(Q(" " + TextoLatitud(e_.Latitud)));
+    std::string lugar = e_.TextoLugar;
+    if (lugar.find_first_not_of(' ') == std::string::npos && e_.IndiceLugar >= 0 &&
+        e_.IndiceLugar < static_cast<int>(c_.TablaCiudades.size()))
+        lugar = c_.TablaCiudades[static_cast<std::size_t>(e_.IndiceLugar)].Nombre.texto();
+    loca_->FijaTexto(Q(" " + lugar));
+    pulsador45_->setVisible(e_.Centrado);
+}
+
+void Cielo::Abre(const std::function<void(ContextoDialogo&)>& abre) {
+    pulsador45_->hide();
+    e_.Cambiado = false;
+    if (abre) abre(contexto_);
+    RefrescaCampos();
+    Coloca();
+    if (e_.Cambiado && e_.AnimarTrasCambio) SubBajHaPulsado(5, 35);
+}
+
+void Cielo::BotonSoltado(int k) {
+    controles::Suena(e_, 0, 9);
+    e_.Sujecion = false;
+    e_.Enganche = false;
+    switch (k) {
+        case 1: Abre(dialogos_.CargaGuar); break;
+        case 2: Abre(dialogos_.Personal); break;
+        case 3: Abre(dialogos_.Locali); break;
+        case 4: Abre(dialogos_.Hora); break;
+        case 5: Abre(dialogos_.Objetos); break;
+        case 6: Abre(dialogos_.Buscar); break;
+        case 7: Abre(dialogos_.Impresor); break;
+        case 8: contexto_.Ayuda(1020); break;
+        case 9: {
+            e_.RespuestaMensaje = -1;
+            mensajes_.Mensaje(A1252("Va a abandonar el programa  VEDRANO.   Para confirmarlo pulse el  Botón  Aceptar.   "
+                                    "Para volver al programa pulse el Botón Cancelar."),
+                              "Salir de VEDRANO", 2, 2);
+            if (e_.RespuestaMensaje != 0) {
+                cerrando_ = true;
+                close();
+                QApplication::quit();
+            }
+            break;
+        }
+        default: break;
+    }
+}
+
+void Cielo::PulsadorAccionado(int k) {
+    if (k == 44) {
+        e_.Sujecion = false;
+        e_.Enganche = false;
+        Abre(dialogos_.Animar);
+        return;
+    }
+    if (k == 45) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        LeeConfiguracion(e_, "Temporal.wrk", mensajes_);
+        e_.Centrado = false;
+        ActualizaCielo();
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+void Cielo::keyPressEvent(QKeyEvent* ev) {
+    if (ev->key() == Qt::Key_Q || ev->key() == Qt::Key_Escape) {
+        showMinimized();
+        return;
+    }
+    QWidget::keyPressEvent(ev);
+}
+
+void Cielo::closeEvent(QCloseEvent* ev) {
+    // Closing the window asks as the exit button does.
+    if (cerrando_) {
+        e_.Sujecion = e_.Enganche = false;
+        ev->accept();
+        return;
+    }
+    ev->ignore();
+    BotonSoltado(9);
+}
+
+}  // namespace vedrano

@@ -1,0 +1,100 @@
+// The main window: the sky picture and, around it, the control panel (nine
+// dialog buttons, five hold-to-repeat arrow pairs, the animation and
+// restore push buttons, the real-time indicator), the location panel, the
+// cursor panel and the objects panel. Every dialog is opened from here,
+// modally and centred on this window.
+#pragma once
+#include <QTimer>
+#include <QWidget>
+#include <array>
+#include <functional>
+
+#include "app/Estado.h"
+#include "catalogue/Catalogos.h"
+#include "dialogs/ContextoDialogo.h"
+#include "dialogs/MensajesVentana.h"
+
+namespace vedrano {
+
+class VistaCielo;
+class Panel;
+class CampoInfo;
+class BotonPanel;
+class PanelLeyenda;
+namespace controles {
+class SubBaj;
+class Pulsador;
+}  // namespace controles
+
+// The entry functions of the dialogs, filled by the start-up.
+struct DialogosCielo {
+    std::function<void(ContextoDialogo&)> CargaGuar, Personal, Locali, Hora, Objetos, Buscar, Impresor, Animar;
+    std::function<void(QWidget*, int)> Ayuda;  // the help window at a topic
+};
+
+class Cielo : public QWidget {
+    Q_OBJECT
+public:
+    Cielo(Estado& e, const Catalogos& c, DialogosCielo dialogos);
+    ~Cielo() override;
+
+    VistaCielo& Vista() { return *vista_; }
+    MensajesVentana& Mensajes() { return mensajes_; }
+    ContextoDialogo& Contexto() { return contexto_; }
+
+    // Recompute everything and redraw (start-up, loaded configurations).
+    void ActualizaCielo();
+    void DibujaCielo();
+    // The text of every information field from the state.
+    void RefrescaCampos();
+
+    // The hold-to-repeat loop of arrow pair `i` (1..5) pressed at x.
+    void SubBajHaPulsado(int i, int x);
+    // The dialog button `k` released (1..9).
+    void BotonSoltado(int k);
+    // Push buttons 44 (animation dialog) and 45 (restore the work file).
+    void PulsadorAccionado(int k);
+    // One tick of the real-time clock.
+    void TicTiempoReal();
+    void ArrancaTiempoReal();
+    void ParaTiempoReal();
+    bool TiempoRealActivo() const { return reloj_.isActive(); }
+    QString TextoTiempoReal() const;
+    controles::SubBaj* SubBaj(int i) const { return subbaj_[static_cast<std::size_t>(i)]; }
+    BotonPanel* Boton(int k) const { return botones_[static_cast<std::size_t>(k)]; }
+
+protected:
+    void resizeEvent(QResizeEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    void closeEvent(QCloseEvent*) override;
+
+private:
+    void Construye();
+    void Coloca();
+    void Abre(const std::function<void(ContextoDialogo&)>& abre);
+    void SubBajMovido(int i, bool enBanda);
+    void SubBajPresionado(int i, int x);
+    void PasoVista(int i, int signo);
+
+    Estado& e_;
+    const Catalogos& c_;
+    DialogosCielo dialogos_;
+    MensajesVentana mensajes_;
+    ContextoDialogo contexto_;
+    VistaCielo* vista_ = nullptr;
+    Panel *panelBotones_ = nullptr, *panelControl_ = nullptr, *panelLocalizacion_ = nullptr,
+          *panelCursor_ = nullptr, *panelObjetos_ = nullptr;
+    PanelLeyenda* leyenda_ = nullptr;
+    std::array<BotonPanel*, 10> botones_{};
+    std::array<controles::SubBaj*, 6> subbaj_{};
+    controles::Pulsador *pulsador44_ = nullptr, *pulsador45_ = nullptr;
+    CampoInfo *fecJul_ = nullptr, *fecLoc_ = nullptr, *horLoc_ = nullptr, *fecUni_ = nullptr, *horUni_ = nullptr;
+    CampoInfo *longi_ = nullptr, *lati_ = nullptr, *loca_ = nullptr, *direc_ = nullptr, *eleva_ = nullptr,
+              *zoom_ = nullptr;
+    CampoInfo *aRecta_ = nullptr, *dec_ = nullptr, *altitud_ = nullptr, *azimut_ = nullptr;
+    CampoInfo* tiempoReal_ = nullptr;
+    QTimer reloj_;
+    bool cerrando_ = false;
+};
+
+}  // namespace vedrano

@@ -1,0 +1,141 @@
+// The main window's repeat loops: the five arrow pairs and the real-time
+// clock.
+#include "app/Constantes.h"
+#include "app/Texto1252.h"
+#include "astro/Planetas.h"
+#include "astro/Tiempo.h"
+#include "sky/proyeccion/Proyeccion.h"
+#include "ui/cielo/Cielo.h"
+#include "ui/cielo/Paneles.h"
+#include "ui/cielo/VistaCielo.h"
+#include "ui/controles/ControlDibujado.h"
+#include "ui/controles/SubBaj.h"
+
+namespace vedrano {
+
+namespace {
+
+constexpr double PASO_GRADO = DOS_PI / 360;
+
+}  // namespace
+
+void Cielo::SubBajMovido(int i, bool enBanda) {
+    controles::SubBaj* s = subbaj_[static_cast<std::size_t>(i)];
+    if (enBanda) {
+        if (e_.CursorActual != 21) controles::FijaCursor(e_, s, 21);
+        return;
+    }
+    if (e_.CursorActual != 0) controles::FijaCursor(e_, s, 0);
+    if (!e_.Enganche) e_.Sujecion = false;
+}
+
+void Cielo::SubBajPresionado(int i, int x) {
+    // Only a press inside the arrows' band counts.
+    if (e_.CursorActual != 21) return;
+    if ((i == 4 || i == 5) && e_.TiempoReal) {
+        mensajes_.Mensaje(A1252("En este momento,  la imagen  en  pantalla se esta animando en tiempo real,  por tanto,  "
+                                "no  puede utilizar  los  botones  de Fecha y Hora o los de Animación del Panel de "
+                                "Control."),
+                          "Animando en Tiempo Real", 1, 2);
+        return;
+    }
+    SubBajHaPulsado(i, x);
+}
+
+void Cielo::PasoVista(int i, int signo) {
+    switch (i) {
+        case 1:  // direction: from 359 degrees upward the next is 1, never 0
+            e_.Direccion += signo * PASO_GRADO;
+            if (e_.Direccion < 0)
+                e_.Direccion = DOS_PI - PASO_GRADO;
+            else if (e_.Direccion >= DOS_PI)
+                e_.Direccion = PASO_GRADO;
+            GiraDireccion(e_);
+            vista_->DibujaCielo();
+            break;
+        case 2:
+            e_.Elevacion += signo * PASO_GRADO;
+            if (e_.Elevacion < 0) e_.Elevacion = 0;
+            if (e_.Elevacion > MEDIO_PI) e_.Elevacion = MEDIO_PI;
+            vista_->DibujaCielo();
+            break;
+        case 3:
+            e_.Zoom += static_cast<float>(signo * 0.5);
+            if (e_.Zoom < 1.0f) e_.Zoom = 1.0f;
+            if (e_.Zoom > 15.0f) e_.Zoom = 15.0f;
+            vista_->DibujaCielo();
+            break;
+        case 4:
+            AvanzaTiempo(e_, c_.TablaPlanetas);
+            break;
+        case 5:
+            controles::Espera(e_, 60);
+            e_.Enganche = true;
+            AvanzaTiempo(e_, c_.TablaPlanetas);
+            vista_->DibujaCielo();
+            break;
+        default: break;
+    }
+    RefrescaCampos();
+}
+
+void Cielo::SubBajHaPulsado(int i, int x) {
+    if (i == 5) {
+        // A second press on the animation arrows stops a running animation.
+        e_.Sujecion = !e_.Sujecion;
+        e_.Enganche = e_.Sujecion;
+        controles::Suena(e_, 1, 4);
+    } else {
+        e_.Sujecion = true;
+        e_.Enganche = false;
+    }
+    const int lado = x < 33 ? 1 : 0;
+    const int signo = lado == 1 ? -1 : 1;
+    if ((i == 4 || i == 5) && ((lado == 1 && e_.PasoDias > 0) || (lado == 0 && e_.PasoDias < 0)))
+        e_.PasoDias = -e_.PasoDias;
+    controles::SubBaj* s = subbaj_[static_cast<std::size_t>(i)];
+    while (e_.Sujecion) {
+        s->dibuja(lado);
+        if (!e_.Enganche) controles::Suena(e_, 1, 4);
+        controles::Espera(e_, 40);
+        PasoVista(i, signo);
+        s->dibuja(-1);
+        controles::Espera(e_, 40);
+        controles::AtiendeEventos();
+    }
+    if (i == 3) {
+        for (int16_t k = 1; k <= 9; ++k)
+            if (k != 3) HallaPlaneta(e_, c_.TablaPlanetas, k);
+        HallaSolAparente(e_);
+        HallaLuna(e_);
+    }
+    vista_->ActualizaCielo();
+}
+
+void Cielo::TicTiempoReal() {
+    ++e_.ContadorTiempoReal;
+    tiempoReal_->FijaTexto(tiempoReal_->Texto().isEmpty() ? QStringLiteral("Animando tiempo real") : QString());
+    if (e_.ContadorTiempoReal >= 60) {
+        e_.RedibujoPermitido = false;
+        e_.FechaJuliana += 1.0 / 1440.0;
+        ActualizaTiempo(e_, c_.TablaPlanetas);
+        e_.RedibujoPermitido = true;
+        vista_->ActualizaCielo();
+        e_.ContadorTiempoReal = 0;
+    }
+}
+
+void Cielo::ArrancaTiempoReal() {
+    tiempoReal_->FijaTexto(QString());
+    e_.ContadorTiempoReal = 0;
+    reloj_.start();
+}
+
+void Cielo::ParaTiempoReal() {
+    reloj_.stop();
+    tiempoReal_->FijaTexto(QString::fromUtf8("Animación tiempo real"));
+}
+
+QString Cielo::TextoTiempoReal() const { return tiempoReal_->Texto(); }
+
+}  // namespace vedrano

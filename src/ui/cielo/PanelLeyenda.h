@@ -1,0 +1,21 @@
+// The objects panel: the legend of the symbols the sky picture uses.
+#pragma once
+#include <QWidget>
+
+#include "app/Estado.h"
+
+namespace vedrano {
+
+class PanelLeyenda : public QWidget {
+public:
+    PanelLeyenda(const Estado& e, QWidget* padre);
+    static constexpr int ALTO_LINEA = 15;
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    const Estado& e_;
+};
+
+}  // namespace vedrano
