@@ -1,0 +1,171 @@
+#include "dialogs/CargaGuar.h"
+
+#include <QBoxLayout>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "app/Texto1252.h"
+#include "config/EscribeConfiguracion.h"
+#include "config/LeeConfiguracion.h"
+#include "ui/controles/Estilo.h"
+#include "ui/controles/Interruptor.h"
+#include "ui/controles/Pulsador.h"
+
+namespace vedrano {
+
+using namespace controles;
+
+namespace {
+
+constexpr const char* TITULO_CARGAR = "Cargar configuraci\xF3n";
+constexpr const char* TITULO_GUARDAR = "Guardar configuraci\xF3n";
+constexpr const char* TITULO_BORRAR = "Borrar configuraci\xF3n";
+constexpr const char* NO_EXISTE = "No existe un archivo de configuraci\xF3n con ese nombre.";
+
+// Text fields and lists in the family's font, black on white.
+void Estiliza(QWidget* w) {
+    w->setFont(FuenteControles());
+    QPalette pal = w->palette();
+    pal.setColor(QPalette::Base, BLANCO);
+    pal.setColor(QPalette::Text, QColor(0, 0, 0));
+    pal.setColor(QPalette::Highlight, QColor(0, 0, 128));
+    pal.setColor(QPalette::HighlightedText, BLANCO);
+    w->setPalette(pal);
+}
+
+bool TieneExtension(const std::string& nombre) { return nombre.find('.') != std::string::npos; }
+
+}  // namespace
+
+std::vector<std::string> CargaGuar::Configuraciones(const std::string& carpeta) {
+    const QStringList nombres = QDir(QString::fromStdString(carpeta))
+                                    .entryList({QStringLiteral("*.ls1")}, QDir::Files,
+                                               QDir::Name | QDir::IgnoreCase);
+    std::vector<std::string> r;
+    for (const QString& n : nombres) {
+        const std::string programa = A1252(n.toStdString());
+        if (DesdeA1252(programa) == n.toStdString()) r.push_back(programa);
+    }
+    return r;
+}
+
+CargaGuar::CargaGuar(ContextoDialogo& ctx)
+    : MarcoOpciones(ctx, "Mantenimiento de configuraciones", "Configuraciones", 1040),
+      lista_(new QListWidget),
+      nombre_(new QLineEdit),
+      cargar_(new Pulsador(ctx.e, 48)),
+      guardar_(new Pulsador(ctx.e, 49)),
+      borrar_(new Pulsador(ctx.e, 50)),
+      animacion_(new Interruptor(ctx.e, 10)) {
+    Estado& e = ctx.e;
+
+    auto* archivos = new Grupo("Configuraciones");
+    Estiliza(lista_);
+    lista_->setFixedSize(230, 190);
+    archivos->contenido()->addWidget(lista_);
+    auto* filaNombre = new QHBoxLayout;
+    filaNombre->addWidget(new Rotulo("Nombre:"));
+    Estiliza(nombre_);
+    nombre_->setMaxLength(120);
+    filaNombre->addWidget(nombre_);
+    archivos->contenido()->addSpacing(4);
+    archivos->contenido()->addLayout(filaNombre);
+
+    auto* acciones = new QVBoxLayout;
+    acciones->setSpacing(8);
+    acciones->addSpacing(8);
+    for (Pulsador* b : {cargar_, guardar_, borrar_}) {
+        b->setFixedSize(110, b->sizeHint().height());
+        acciones->addWidget(b);
+    }
+    acciones->addSpacing(8);
+    animacion_->setEncendido(e.IncluirAnimacion);
+    acciones->addWidget(animacion_);
+    acciones->addStretch(1);
+
+    auto* cuerpo = new QHBoxLayout;
+    cuerpo->setSpacing(10);
+    cuerpo->addWidget(archivos);
+    cuerpo->addLayout(acciones);
+    ponCuerpo(cuerpo);
+
+    connect(lista_, &QListWidget::currentTextChanged, nombre_, [this](const QString& t) {
+        if (!t.isEmpty()) nombre_->setText(t);
+    });
+    connect(lista_, &QListWidget::itemDoubleClicked, this, [this] { carga(); });
+    connect(cargar_, &Pulsador::accionado, this, [this] { carga(); });
+    connect(guardar_, &Pulsador::accionado, this, [this] { guarda(); });
+    connect(borrar_, &Pulsador::accionado, this, [this] { borra(); });
+    connect(animacion_, &Interruptor::cambiado, this, [&e](bool si) { e.IncluirAnimacion = si; });
+    llenaLista(std::string());
+}
+
+void CargaGuar::llenaLista(const std::string& elegido) {
+    lista_->clear();
+    for (const std::string& n : Configuraciones(ctx_.e.DirArchivo)) {
+        lista_->addItem(Texto(n));
+        if (!elegido.empty() && QString::compare(Texto(n), Texto(elegido), Qt::CaseInsensitive) == 0)
+            lista_->setCurrentRow(lista_->count() - 1);
+    }
+}
+
+std::string CargaGuar::nombreEscrito(const char* tituloCp1252) {
+    const std::string n = A1252(nombre_->text().trimmed().toStdString());
+    if (n.empty())
+        ctx_.mensajes.Mensaje("Escriba el nombre del archivo de configuraci\xF3n o elija uno de la lista.",
+                              tituloCp1252, 1, 2);
+    return n;
+}
+
+void CargaGuar::carga() {
+    std::string n = nombreEscrito(TITULO_CARGAR);
+    if (n.empty()) return;
+    if (!TieneExtension(n)) n += ".ls1";
+    // The reader tells its own faults; a file that is gone leaves the
+    // defaults, which the picture must show as well.
+    LeeConfiguracion(ctx_.e, n, ctx_.mensajes);
+    ctx_.e.Cambiado = true;
+    if (ctx_.ActualizaCielo) ctx_.ActualizaCielo();
+}
+
+void CargaGuar::guarda() {
+    const std::string n = nombreEscrito(TITULO_GUARDAR);
+    if (n.empty()) return;
+    const ResultadoConfiguracion r = EscribeConfiguracion(ctx_.e, n, ctx_.mensajes, false);
+    if (r.escrito) {
+        nombre_->setText(Texto(r.archivo));
+        llenaLista(r.archivo);
+    }
+}
+
+void CargaGuar::borra() {
+    std::string n = nombreEscrito(TITULO_BORRAR);
+    if (n.empty()) return;
+    if (!TieneExtension(n)) n += ".ls1";
+    const QString ruta = QString::fromStdString(RutaConfiguracion(ctx_.e, n));
+    if (!QFile::exists(ruta)) {
+        ctx_.mensajes.Mensaje(NO_EXISTE, TITULO_BORRAR, 1, 1);
+        return;
+    }
+    const std::string pregunta =
+        "Va a borrar el archivo de configuraci\xF3n  " + n +
+        ".   Para confirmarlo pulse el  Bot\xF3n  Aceptar.   Para salir sin borrarlo pulse el  Bot\xF3n  Cancelar.";
+    if (ctx_.mensajes.Mensaje(pregunta, TITULO_BORRAR, 2, 6) == 0) return;
+    if (!QFile::remove(ruta)) {
+        ctx_.mensajes.Mensaje("No se ha podido borrar el archivo de configuraci\xF3n  " + n + ".", TITULO_BORRAR, 1,
+                              1);
+        return;
+    }
+    nombre_->clear();
+    llenaLista(std::string());
+}
+
+void AbreCargaGuar(ContextoDialogo& ctx) {
+    ctx.e.Cambiado = false;
+    CargaGuar d(ctx);
+    MuestraCentrado(d, ctx.cielo);
+}
+
+}  // namespace vedrano

@@ -1,0 +1,180 @@
+#include "dialogs/Objetos.h"
+
+#include <QBoxLayout>
+#include <cmath>
+#include <tuple>
+
+#include "ui/controles/Interruptor.h"
+#include "ui/controles/Spin.h"
+
+namespace vedrano {
+
+using namespace controles;
+
+namespace {
+
+// Everything the form can change, to tell whether leaving it changed the state.
+auto Ajustes(const Estado& e) {
+    const Interruptores& s = e.Capas;
+    return std::make_tuple(std::vector<int16_t>{s.Sol, s.Luna, s.Plane[0], s.Plane[1], s.Plane[2], s.Plane[3],
+                                                s.Plane[4], s.Plane[5], s.Plane[6], s.Plane[7], s.Plane[8],
+                                                s.Galax, s.NebPl, s.NebDi, s.CumAb, s.CumGl, s.Quasa, s.Pulsa,
+                                                s.Aguje, s.ARDEC30, s.ARDEC15, s.Horiz, s.Eclip, s.LimCo,
+                                                s.LuzDi, s.ViaLa, s.Messi},
+                           std::vector<int16_t>{e.NivelEstrellas, e.NivelConstelaciones, e.IdEstrellas,
+                                                e.IdConstelaciones, e.IdMessier, e.NivelGalaxias,
+                                                e.NivelNebPlanetarias, e.NivelNebDifusas, e.NivelCumAbiertos,
+                                                e.NivelCumGlobulares},
+                           e.IdentificarObjetos);
+}
+
+// A check box with the spin field of its category's detail level beside it.
+QHBoxLayout* Fila() {
+    auto* f = new QHBoxLayout;
+    f->setSpacing(6);
+    return f;
+}
+
+}  // namespace
+
+Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos", 1080) {
+    Estado& e = ctx.e;
+    Interruptores& s = e.Capas;
+
+    auto* estrellas = new Grupo("Estrellas");
+    nuevoSpin(estrellas->contenido(), 32, e.NivelEstrellas);
+    idEstrellas_ = nuevasOpciones(estrellas->contenido(), {"Sin identificar", "C\xF3" "digo", "Nombre"},
+                                  e.IdEstrellas);
+
+    auto* constelaciones = new Grupo("Constelaciones");
+    nuevoSpin(constelaciones->contenido(), 33, e.NivelConstelaciones);
+    idConstelaciones_ = nuevasOpciones(constelaciones->contenido(),
+                                       {"Sin identificar", "Abreviatura", "Nombre castellano", "Nombre latino"},
+                                       e.IdConstelaciones);
+    nuevaCasilla(constelaciones->contenido(), "Lim. Constelac.", s.LimCo);
+
+    auto* messier = new Grupo("Messier");
+    nuevaCasilla(messier->contenido(), "Objetos Messier", s.Messi);
+    idMessier_ = nuevasOpciones(messier->contenido(), {"Sin identificar", "N\xFA" "mero", "Nombre"}, e.IdMessier);
+
+    auto* profundo = new Grupo("Cielo profundo");
+    const struct {
+        const char* texto;
+        int16_t& capa;
+        int indice;
+        int16_t& nivel;
+    } categorias[] = {
+        {"Galaxias", s.Galax, 19, e.NivelGalaxias},
+        {"Nebul.Planet.", s.NebPl, 20, e.NivelNebPlanetarias},
+        {"Nebul.Difusas", s.NebDi, 21, e.NivelNebDifusas},
+        {"C\xFA" "m.Abiertos", s.CumAb, 22, e.NivelCumAbiertos},
+        {"C\xFA" "m.Globular.", s.CumGl, 23, e.NivelCumGlobulares},
+    };
+    for (const auto& c : categorias) {
+        QHBoxLayout* f = Fila();
+        nuevaCasilla(f, c.texto, c.capa)->setMinimumWidth(110);
+        nuevoSpin(f, c.indice, c.nivel);
+        profundo->contenido()->addLayout(f);
+    }
+    nuevaCasilla(profundo->contenido(), "Qu\xE1" "sares", s.Quasa);
+    nuevaCasilla(profundo->contenido(), "P\xFA" "lsares", s.Pulsa);
+    nuevaCasilla(profundo->contenido(), "Agujeros Negros", s.Aguje);
+    identificar_ = new Interruptor(e, 12);
+    identificar_->setEncendido(e.IdentificarObjetos);
+    connect(identificar_, &Interruptor::cambiado, this, [&e](bool si) { e.IdentificarObjetos = si; });
+    profundo->contenido()->addSpacing(4);
+    profundo->contenido()->addWidget(identificar_);
+
+    auto* solar = new Grupo("Sistema solar");
+    nuevaCasilla(solar->contenido(), "Sol", s.Sol);
+    nuevaCasilla(solar->contenido(), "Luna", s.Luna);
+    // Element 2 is the Earth's: the sky is seen from it, so it has no box.
+    const char* planetas[] = {"Mercurio", "Venus", nullptr, "Marte", "J\xFApiter",
+                              "Saturno", "Urano", "Neptuno", "Plut\xF3n"};
+    for (std::size_t i = 0; i < s.Plane.size(); ++i)
+        if (planetas[i]) nuevaCasilla(solar->contenido(), planetas[i], s.Plane[i]);
+
+    auto* referencias = new Grupo("Referencias");
+    nuevaCasilla(referencias->contenido(), "Luz Diurna", s.LuzDi);
+    nuevaCasilla(referencias->contenido(), "Horizonte", s.Horiz);
+    nuevaCasilla(referencias->contenido(), "Ecl\xEDptica", s.Eclip);
+    nuevaCasilla(referencias->contenido(), "A.R./DEC 15\xBA", s.ARDEC15);
+    nuevaCasilla(referencias->contenido(), "A.R./DEC 30\xBA", s.ARDEC30);
+    nuevaCasilla(referencias->contenido(), "Via L\xE1" "ctea", s.ViaLa);
+
+    auto* columna1 = new QVBoxLayout;
+    columna1->addWidget(estrellas);
+    columna1->addWidget(constelaciones);
+    columna1->addWidget(messier);
+    columna1->addStretch(1);
+    auto* columna2 = new QVBoxLayout;
+    columna2->addWidget(profundo);
+    columna2->addWidget(referencias);
+    columna2->addStretch(1);
+    auto* columna3 = new QVBoxLayout;
+    columna3->addWidget(solar);
+    columna3->addStretch(1);
+    auto* cuerpo = new QHBoxLayout;
+    cuerpo->setSpacing(8);
+    cuerpo->addLayout(columna1);
+    cuerpo->addLayout(columna2);
+    cuerpo->addLayout(columna3);
+    ponCuerpo(cuerpo);
+}
+
+Casilla* Objetos::nuevaCasilla(QBoxLayout* donde, const std::string& textoCp1252, int16_t& campo) {
+    auto* c = new Casilla(ctx_.e, textoCp1252);
+    c->setMarcada(campo != 0);
+    connect(c, &Casilla::cambiada, this, [&campo](bool si) { campo = si ? 1 : 0; });
+    donde->addWidget(c);
+    casillas_.push_back(c);
+    return c;
+}
+
+Spin* Objetos::nuevoSpin(QBoxLayout* donde, int indice, int16_t& campo) {
+    auto* sp = new Spin(ctx_.e, indice);
+    sp->setValor(campo);
+    sp->setAlmacen([&campo](float v) { campo = static_cast<int16_t>(std::lround(v)); });
+    donde->addWidget(sp);
+    spins_[indice] = sp;
+    return sp;
+}
+
+std::vector<Casilla*> Objetos::nuevasOpciones(QBoxLayout* donde, const std::vector<std::string>& textosCp1252,
+                                              int16_t& campo) {
+    std::vector<Casilla*> grupo;
+    for (std::size_t i = 0; i < textosCp1252.size(); ++i) {
+        auto* c = new Casilla(ctx_.e, textosCp1252[i]);
+        // A value outside the choices (from a hand-edited file) shows the first.
+        c->setMarcada(static_cast<int>(i) == campo ||
+                      (i == 0 && (campo < 0 || campo >= static_cast<int16_t>(textosCp1252.size()))));
+        donde->addWidget(c);
+        grupo.push_back(c);
+    }
+    Casilla::HazOpciones(grupo, [&campo](int i) { campo = static_cast<int16_t>(i); });
+    return grupo;
+}
+
+Casilla* Objetos::casilla(const QString& texto) const {
+    for (Casilla* c : casillas_)
+        if (c->texto() == texto) return c;
+    return nullptr;
+}
+
+Spin* Objetos::spin(int indice) const {
+    auto it = spins_.find(indice);
+    return it == spins_.end() ? nullptr : it->second;
+}
+
+void AbreObjetos(ContextoDialogo& ctx) {
+    ctx.e.Cambiado = false;
+    const auto antes = Ajustes(ctx.e);
+    {
+        Objetos d(ctx);
+        MuestraCentrado(d, ctx.cielo);
+    }
+    if (Ajustes(ctx.e) != antes) ctx.e.Cambiado = true;
+    if (ctx.DibujaCielo) ctx.DibujaCielo();
+}
+
+}  // namespace vedrano

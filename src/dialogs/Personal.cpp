@@ -1,0 +1,102 @@
+#include "dialogs/Personal.h"
+
+#include <QBoxLayout>
+#include <tuple>
+
+#include "app/TablasControles.h"
+#include "ui/controles/Interruptor.h"
+#include "ui/controles/Potenciometro.h"
+#include "ui/controles/Selector.h"
+
+namespace vedrano {
+
+using namespace controles;
+
+namespace {
+
+auto Ajustes(const Estado& e) {
+    return std::make_tuple(e.Sonido, e.Velocidad, e.FormatoHora, e.Orientacion, e.AnimarTrasCambio, e.Precesion,
+                           e.PanelCursor, e.Marcar);
+}
+
+}  // namespace
+
+Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "Personalizar", 1050) {
+    Estado& e = ctx.e;
+
+    auto* interfaz = new Grupo("Manejo");
+    nuevoInterruptor(interfaz->contenido(), 9, e.Sonido);
+    nuevoInterruptor(interfaz->contenido(), 17, e.AnimarTrasCambio);
+    velocidad_ = new Potenciometro(e, 15);
+    velocidad_->setPosicion(e.Velocidad);
+    velocidad_->setFixedSize(velocidad_->sizeHint());
+    connect(velocidad_, &Potenciometro::posicionCambiada, this,
+            [&e](int v) { e.Velocidad = static_cast<int16_t>(v); });
+    interfaz->contenido()->addWidget(velocidad_);
+
+    auto* cielo = new Grupo("Cielo");
+    // Mirrored is any value but 1; the selector shows it as its second choice.
+    orientacion_ = new Selector(e, 16, {Etiqueta(39), Etiqueta(40)});
+    orientacion_->setEleccion(e.Orientacion == 1 ? 1 : 2);
+    connect(orientacion_, &Selector::eleccionCambiada, this, [this, &e](int eleccion) {
+        e.Orientacion = static_cast<int16_t>(eleccion == 1 ? 1 : 2);
+        if (ctx_.DibujaCielo) ctx_.DibujaCielo();
+    });
+    cielo->contenido()->addWidget(orientacion_);
+    nuevoInterruptor(cielo->contenido(), 7, e.Precesion);
+
+    auto* horas = new Grupo("Fecha y hora");
+    formatoHora_ = new Selector(e, 1, {Etiqueta(37), Etiqueta(38)});
+    formatoHora_->setEleccion(e.FormatoHora == 1 ? 1 : 2);
+    connect(formatoHora_, &Selector::eleccionCambiada, this,
+            [&e](int eleccion) { e.FormatoHora = static_cast<int16_t>(eleccion == 1 ? 1 : 2); });
+    horas->contenido()->addWidget(formatoHora_);
+
+    auto* cursor = new Grupo("Cursor");
+    nuevoInterruptor(cursor->contenido(), 4, e.PanelCursor);
+    nuevoInterruptor(cursor->contenido(), 18, e.Marcar);
+
+    auto* izquierda = new QVBoxLayout;
+    izquierda->addWidget(interfaz);
+    izquierda->addWidget(horas);
+    izquierda->addStretch(1);
+    auto* derecha = new QVBoxLayout;
+    derecha->addWidget(cielo);
+    derecha->addWidget(cursor);
+    derecha->addStretch(1);
+    auto* cuerpo = new QHBoxLayout;
+    cuerpo->setSpacing(8);
+    cuerpo->addLayout(izquierda);
+    cuerpo->addLayout(derecha);
+    ponCuerpo(cuerpo);
+}
+
+Interruptor* Personal::nuevoInterruptor(QBoxLayout* donde, int indice, bool& campo) {
+    auto* s = new Interruptor(ctx_.e, indice);
+    s->setEncendido(campo);
+    connect(s, &Interruptor::cambiado, this, [&campo](bool si) { campo = si; });
+    donde->addWidget(s);
+    interruptores_[indice] = s;
+    return s;
+}
+
+Interruptor* Personal::interruptor(int indice) const {
+    auto it = interruptores_.find(indice);
+    return it == interruptores_.end() ? nullptr : it->second;
+}
+
+void AbrePersonal(ContextoDialogo& ctx) {
+    ctx.e.Cambiado = false;
+    const auto antes = Ajustes(ctx.e);
+    {
+        Personal d(ctx);
+        MuestraCentrado(d, ctx.cielo);
+    }
+    if (Ajustes(ctx.e) == antes) return;
+    ctx.e.Cambiado = true;
+    // The hour format and precession reach the picture only through the
+    // time refresh and the panel texts of the full update.
+    if (ctx.ActualizaCielo) ctx.ActualizaCielo();
+}
+
+}  // namespace vedrano
