@@ -114,6 +114,7 @@ struct Estado {
     bool IncluirAnimacion = false;  // configuration dialog: animate after loading
     int16_t AnchoMm = 180, AltoMm = 130;  // printing: picture size on paper
     bool ImagenEnPantalla = false;        // printing: colours as on screen, not black on white
+    bool DatosLocalizacion = true;        // printing: the place and its coordinates in the title
     bool PanelControl = true, PanelLocalizacion = true, PanelObjetos = true;
     bool Telescopio = false;
     double CampoTelescopio = 0.0523596;   // the telescope circle's angle, radians
