@@ -2,6 +2,8 @@
 // other parts of the program rely on by number, and records that can work.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "app/ErrorEjecucion.h"
 #include "app/Formato.h"
 #include "app/TablasControles.h"
@@ -36,7 +38,7 @@ TEST(TablasControles, EntradasConNumeroFijo) {
     EXPECT_EQ(Etiqueta(35), "Alto en mms........:");
     EXPECT_EQ(Etiqueta(36), "Factor.:");
     EXPECT_EQ(Etiqueta(41), "Fecha y Hora actuales");
-    EXPECT_EQ(Etiqueta(42), "Mediod\xEDa");
+    EXPECT_EQ(Etiqueta(42), "Mediod\xED" "a");
     EXPECT_EQ(Etiqueta(45), "Restaurar situaci\xF3n anterior");
     // The zoom picture of the location dialog and the main window.
     EXPECT_EQ(FormatoIndice(30).Formato, "#0.0");

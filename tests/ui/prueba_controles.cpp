@@ -28,6 +28,10 @@ protected:
     void SetUp() override {
         e.Sonido = true;
         e.Velocidad = 100;
+        // A repeat that missed its limit ends here instead of running on.
+        f.reloj.alDormir = [this](int n) {
+            if (n >= 40) e.SujecionSpin = false;
+        };
     }
     // Points the mouse at the keys (which gives cursor 21) and presses a half.
     void PulsaSpin(Spin& s, bool arriba) {
@@ -106,7 +110,9 @@ TEST_F(Controles, SpinConVueltaYSoltarElRaton) {
     EXPECT_EQ(s.valor(), 358.0f);  // 1, 0, 359, 358
 
     // The mouse-up reaches the loop when it lets events run.
-    f.reloj.alDormir = nullptr;
+    f.reloj.alDormir = [this](int n) {
+        if (n >= 40) e.SujecionSpin = false;
+    };
     s.setValor(5);
     QMouseEvent suelta(QEvent::MouseButtonRelease, QPointF(s.width() - 10, 8), QPointF(), Qt::LeftButton,
                        Qt::NoButton, Qt::NoModifier);
