@@ -3,6 +3,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "app/ErrorEjecucion.h"
+#include "app/Texto1252.h"
 #include "sky/DibujaCielo.h"
 
 namespace vedrano {
@@ -15,14 +17,30 @@ VistaCielo::VistaCielo(Estado& e, const Catalogos& c, InterfazMensajes& m, QWidg
 }
 
 void VistaCielo::ActualizaCielo() {
-    vedrano::ActualizaCielo(e_, c_, lienzo_);
-    update();
-    emit Dibujado();
+    listo_ = true;
+    Protegido([this] { vedrano::ActualizaCielo(e_, c_, lienzo_); });
 }
 
 void VistaCielo::DibujaCielo() {
-    AjustaEscalaLienzo(e_, lienzo_);
-    vedrano::DibujaCielo(e_, c_, lienzo_);
+    if (!listo_) return;  // nothing is drawn before the catalogues and the configuration are in
+    Protegido([this] {
+        AjustaEscalaLienzo(e_, lienzo_);
+        vedrano::DibujaCielo(e_, c_, lienzo_);
+    });
+}
+
+void VistaCielo::Protegido(const std::function<void()>& pasada) {
+    // An arithmetic fault ends the pass with its run-time error: it is told
+    // once, and the window goes on with what was drawn.
+    try {
+        pasada();
+    } catch (const ErrorEjecucion& err) {
+        if (!avisado_) {
+            avisado_ = true;
+            m_.Mensaje("ERROR CIE" + std::to_string(err.numero()) + A1252(": no se ha podido dibujar el cielo completo."),
+                       "VEDRANO", 1, 1);
+        }
+    }
     update();
     emit Dibujado();
 }

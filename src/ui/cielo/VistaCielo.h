@@ -4,6 +4,7 @@
 #pragma once
 #include <QWidget>
 #include <functional>
+#include <string>
 
 #include "app/Estado.h"
 #include "app/InterfazMensajes.h"
@@ -40,12 +41,14 @@ protected:
 
 private:
     void DibujaMarca(const QPointF& pixel);
+    void Protegido(const std::function<void()>& pasada);
 
     Estado& e_;
     const Catalogos& c_;
     InterfazMensajes& m_;
     Lienzo lienzo_;
     QPointF marca_;
+    bool listo_ = false, avisado_ = false;
 };
 
 }  // namespace vedrano

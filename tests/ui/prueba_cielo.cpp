@@ -1,0 +1,175 @@
+// The main window driven as a user drives it: the arrow pairs' repeat loop
+// and its limits, the refusal while real time runs, dialogs stopping the
+// animation, the exit confirmation and the real-time clock.
+#include <gtest/gtest.h>
+
+#include <QKeyEvent>
+#include <QTimer>
+
+#include "EntornoQt.h"
+#include "Falsos.h"
+#include "app/Constantes.h"
+#include "app/Texto1252.h"
+#include "catalogue/CargaCatalogos.h"
+#include "dialogs/Mensajes.h"
+#include "ui/cielo/Cielo.h"
+#include "ui/controles/SubBaj.h"
+
+using namespace vedrano;
+
+namespace {
+
+class Calla : public Notificador {
+public:
+    void Avisa(const std::string&, const std::string&) override {}
+};
+
+const Catalogos& Datos() {
+    static Catalogos c;
+    static bool cargado = [] {
+        Calla calla;
+        CargaCatalogos(VEDRANO_DATOS, c, calla);
+        return true;
+    }();
+    (void)cargado;
+    return c;
+}
+
+// Answers the next message box when it shows: Esc cancels a two-button
+// message, Enter accepts; the text is kept for the test.
+struct Contestador {
+    QString texto;
+    bool visto = false;
+    void Prepara(int tecla) {
+        QTimer::singleShot(0, [this, tecla] {
+            auto* m = qobject_cast<Mensajes*>(QApplication::activeModalWidget());
+            if (!m) return;
+            visto = true;
+            QKeyEvent ev(QEvent::KeyPress, tecla, Qt::NoModifier);
+            QCoreApplication::sendEvent(m, &ev);
+        });
+    }
+};
+
+struct Ventana {
+    pruebas::Falsos falsos;
+    Estado e;
+    DialogosCielo dialogos;
+    std::unique_ptr<Cielo> cielo;
+    Ventana() {
+        e.FechaJuliana = 2460700.5;
+        cielo = std::make_unique<Cielo>(e, Datos(), dialogos);
+        cielo->ActualizaCielo();
+    }
+    // Presses arrow pair i at x and lets the loop run `pasos` steps.
+    void Pulsa(int i, int x, int pasos) {
+        int siestas = 0;
+        falsos.reloj.alDormir = [this, pasos, &siestas](int) {
+            if (++siestas >= 2 * pasos) e.Sujecion = false;
+        };
+        e.CursorActual = 21;
+        cielo->SubBajHaPulsado(i, x);
+        falsos.reloj.alDormir = nullptr;
+    }
+};
+
+}  // namespace
+
+TEST(Cielo, DirectionWrapsFrom359To1AndBack) {
+    Ventana v;
+    const double paso = DOS_PI / 360;
+    v.e.Direccion = 359 * paso;
+    v.Pulsa(1, 40, 1);
+    EXPECT_DOUBLE_EQ(v.e.Direccion, paso);  // never shows 0
+    v.e.Direccion = 0;
+    v.Pulsa(1, 12, 1);
+    EXPECT_DOUBLE_EQ(v.e.Direccion, DOS_PI - paso);
+    v.e.Direccion = 3.0;
+    v.Pulsa(1, 40, 5);
+    EXPECT_NEAR(v.e.Direccion, 3.0 + 5 * paso, 1e-12);
+}
+
+TEST(Cielo, ElevationAndZoomStopAtTheirLimits) {
+    Ventana v;
+    v.e.Elevacion = MEDIO_PI - 0.001;
+    v.Pulsa(2, 40, 3);
+    EXPECT_EQ(v.e.Elevacion, MEDIO_PI);
+    v.e.Elevacion = 0.01;
+    v.Pulsa(2, 12, 3);
+    EXPECT_EQ(v.e.Elevacion, 0.0);
+    v.e.Zoom = 14.5f;
+    v.Pulsa(3, 40, 4);
+    EXPECT_EQ(v.e.Zoom, 15.0f);
+    v.e.Zoom = 1.5f;
+    v.Pulsa(3, 12, 4);
+    EXPECT_EQ(v.e.Zoom, 1.0f);
+}
+
+TEST(Cielo, TimeArrowsStepAndAreRefusedInRealTime) {
+    Ventana v;
+    v.e.PasoUnidad = 8;  // one solar day
+    v.e.PasoCantidad = 1;
+    v.e.PasoDias = 1;
+    double antes = v.e.FechaJuliana;
+    v.Pulsa(4, 12, 2);  // left: backward
+    EXPECT_DOUBLE_EQ(v.e.FechaJuliana, antes - 2);
+    EXPECT_LT(v.e.PasoDias, 0);
+
+    v.e.TiempoReal = true;
+    Contestador c;
+    c.Prepara(Qt::Key_Return);
+    antes = v.e.FechaJuliana;
+    v.e.CursorActual = 21;
+    emit v.cielo->SubBaj(4)->pulsado(40);
+    EXPECT_TRUE(c.visto);
+    EXPECT_EQ(v.e.FechaJuliana, antes);
+
+    // A press outside the arrows' band does nothing.
+    v.e.TiempoReal = false;
+    v.e.CursorActual = 0;
+    emit v.cielo->SubBaj(4)->pulsado(40);
+    EXPECT_EQ(v.e.FechaJuliana, antes);
+}
+
+TEST(Cielo, OpeningADialogStopsTheAnimation) {
+    Ventana v;
+    bool corriaAlAbrir = true;
+    v.cielo.reset();
+    v.dialogos.Objetos = [&](ContextoDialogo& ctx) { corriaAlAbrir = ctx.e.Sujecion || ctx.e.Enganche; };
+    v.cielo = std::make_unique<Cielo>(v.e, Datos(), v.dialogos);
+    v.e.Sujecion = v.e.Enganche = true;
+    v.cielo->BotonSoltado(5);
+    EXPECT_FALSE(corriaAlAbrir);
+    EXPECT_FALSE(v.e.Sujecion);
+}
+
+TEST(Cielo, CancellingTheExitKeepsTheProgram) {
+    Ventana v;
+    v.cielo->show();
+    Contestador c;
+    c.Prepara(Qt::Key_Escape);
+    v.cielo->BotonSoltado(9);
+    EXPECT_TRUE(c.visto);
+    EXPECT_EQ(v.e.RespuestaMensaje, 0);
+    EXPECT_TRUE(v.cielo->isVisible());
+}
+
+TEST(Cielo, RealTimeClockAddsAMinuteEvery60Ticks) {
+    Ventana v;
+    v.cielo->ArrancaTiempoReal();
+    EXPECT_TRUE(v.cielo->TiempoRealActivo());
+    double antes = v.e.FechaJuliana;
+    QString anterior = v.cielo->TextoTiempoReal();
+    for (int t = 1; t <= 59; ++t) {
+        v.cielo->TicTiempoReal();
+        EXPECT_NE(v.cielo->TextoTiempoReal(), anterior) << t;  // the indicator blinks
+        anterior = v.cielo->TextoTiempoReal();
+    }
+    EXPECT_EQ(v.e.FechaJuliana, antes);
+    v.cielo->TicTiempoReal();
+    EXPECT_DOUBLE_EQ(v.e.FechaJuliana, antes + 1.0 / 1440);
+    EXPECT_EQ(v.e.ContadorTiempoReal, 0);
+    v.cielo->ParaTiempoReal();
+    EXPECT_FALSE(v.cielo->TiempoRealActivo());
+    EXPECT_EQ(v.cielo->TextoTiempoReal(), QString::fromUtf8("Animación tiempo real"));
+}
