@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QWidget>
 
 #include "app/Texto1252.h"
 
@@ -24,6 +25,13 @@ QFont FuenteControles() {
 }
 
 QString Texto(const std::string& cp1252) { return QString::fromStdString(DesdeA1252(cp1252)); }
+
+void EstiloCampo(QWidget* campo) {
+    campo->setFont(FuenteControles());
+    campo->setStyleSheet(QStringLiteral(
+        "border-style: solid; border-width: 1px; border-color: #808080 #ffffff #ffffff #808080;"
+        "background: #ffffff; color: #000000; padding: 0px 1px;"));
+}
 
 void CopiaCelda(QPainter& p, QPoint destino, const QRect& fuente) {
     p.drawPixmap(destino, MapaControles(), fuente);

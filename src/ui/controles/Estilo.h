@@ -46,6 +46,9 @@ QFont FuenteControles();
 // Program text (Windows-1252) as Qt shows it.
 QString Texto(const std::string& cp1252);
 
+// Gives a text field the family's look: the font and a sunken white box.
+void EstiloCampo(QWidget* campo);
+
 // Copies `fuente` of the control bitmap to `destino`, unscaled.
 void CopiaCelda(QPainter& p, QPoint destino, const QRect& fuente);
 

@@ -31,7 +31,7 @@ std::optional<float> LeeNumero(const std::string& texto) {
 Spin::Spin(Estado& e, int indice, QWidget* padre) : ControlDibujado(e, indice, padre), campo_(new QLineEdit(this)) {
     etiqueta();
     FormatoIndice(indice);  // both tables must hold the index
-    campo_->setFont(FuenteControles());
+    EstiloCampo(campo_);
     campo_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     campo_->setTextMargins(1, 0, 1, 0);
     connect(campo_, &QLineEdit::editingFinished, this, &Spin::aceptaTexto);
