@@ -1,15 +1,16 @@
 // The dialogs of the main window and the cover, as the start-up wires them.
 #pragma once
-#include <memory>
+#include <QPointer>
 
 #include "ui/cielo/Cielo.h"
 
 namespace vedrano {
 
-DialogosCielo Dialogos();
+DialogosCielo Dialogos(Estado& e);
 
-// The cover shown while the program starts; closed when the sky is drawn.
-std::shared_ptr<QWidget> MuestraCareta();
-void CierraCareta(std::shared_ptr<QWidget>& careta);
+// The cover shown while the program starts; it closes by itself once the
+// main window is active.
+QPointer<QWidget> MuestraCareta(const Estado& e);
+void CierraCareta(QPointer<QWidget> careta, QWidget* cielo);
 
 }  // namespace vedrano

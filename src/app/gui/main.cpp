@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
 
     Estado e;
     Catalogos c;
-    auto careta = MuestraCareta();
+    QPointer<QWidget> careta = MuestraCareta(e);
 
     PreparaCarpetas(e, plataforma::CarpetaPrograma(argv[0]), plataforma::CarpetaSistema());
 
@@ -30,7 +30,7 @@ int main(int argc, char** argv) {
     if (!CompruebaPantalla(pantalla, inicio)) return 0;  // the user chose to leave
 
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    Cielo cielo(e, c, Dialogos());
+    Cielo cielo(e, c, Dialogos(e));
     FijaAyudaMensajes([&cielo](int tema) { cielo.Contexto().Ayuda(tema); });
     cielo.show();
     app.processEvents();
@@ -40,9 +40,9 @@ int main(int argc, char** argv) {
     cielo.ActualizaCielo();
 
     QApplication::restoreOverrideCursor();
-    CierraCareta(careta);
     cielo.activateWindow();
     cielo.raise();
+    CierraCareta(careta, &cielo);
 
     MuestraMensaje(e, &cielo,
                    A1252("Si   desea   consultar   una   descripción   general   de   este programa  para  conocer  "
