@@ -55,7 +55,7 @@ void DibujaCieloCareta(QPainter& p, const QRect& r) {
         p.drawEllipse(s, 0.6 + azar.bounded(0.7), 0.6 + azar.bounded(0.7));
     }
     auto punto = [&](const Astro& a) {
-        return QPointF(r.left() + a.x * r.width() * 0.55 + r.width() * 0.40, r.top() + a.y * r.height());
+        return QPointF(r.left() + a.x * r.width() * 0.50 + r.width() * 0.47, r.top() + a.y * r.height());
     };
     p.setPen(QPen(QColor(70, 110, 200), 1));
     for (const auto& t : TRAZOS) p.drawLine(punto(ORION[t[0]]), punto(ORION[t[1]]));

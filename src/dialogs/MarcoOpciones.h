@@ -60,6 +60,7 @@ public:
     void setMarcada(bool si);
     QString texto() const { return texto_; }
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
     // Makes option buttons of `grupo`; `alElegir` receives the position of
     // the button chosen.

@@ -1,6 +1,7 @@
 #include "dialogs/Objetos.h"
 
 #include <QBoxLayout>
+#include <algorithm>
 #include <cmath>
 #include <tuple>
 
@@ -70,17 +71,23 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
         {"C\xFA" "m.Abiertos", s.CumAb, 22, e.NivelCumAbiertos},
         {"C\xFA" "m.Globular.", s.CumGl, 23, e.NivelCumGlobulares},
     };
+    std::vector<Spin*> niveles;
     for (const auto& c : categorias) {
         QHBoxLayout* f = Fila();
         nuevaCasilla(f, c.texto, c.capa)->setMinimumWidth(110);
-        nuevoSpin(f, c.indice, c.nivel);
+        niveles.push_back(nuevoSpin(f, c.indice, c.nivel));
         profundo->contenido()->addLayout(f);
     }
+    // The level fields one under another, all of the widest one's width.
+    int ancho = 0;
+    for (Spin* sp : niveles) ancho = std::max(ancho, sp->sizeHint().width());
+    for (Spin* sp : niveles) sp->setFixedWidth(ancho);
     nuevaCasilla(profundo->contenido(), "Qu\xE1" "sares", s.Quasa);
     nuevaCasilla(profundo->contenido(), "P\xFA" "lsares", s.Pulsa);
     nuevaCasilla(profundo->contenido(), "Agujeros Negros", s.Aguje);
     identificar_ = new Interruptor(e, 12);
     identificar_->setEncendido(e.IdentificarObjetos);
+    identificar_->setMinimumWidth(identificar_->sizeHint().width());
     connect(identificar_, &Interruptor::cambiado, this, [&e](bool si) { e.IdentificarObjetos = si; });
     profundo->contenido()->addSpacing(4);
     profundo->contenido()->addWidget(identificar_);
@@ -105,14 +112,14 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
     auto* columna1 = new QVBoxLayout;
     columna1->addWidget(estrellas);
     columna1->addWidget(constelaciones);
-    columna1->addWidget(messier);
     columna1->addStretch(1);
     auto* columna2 = new QVBoxLayout;
     columna2->addWidget(profundo);
-    columna2->addWidget(referencias);
+    columna2->addWidget(messier);
     columna2->addStretch(1);
     auto* columna3 = new QVBoxLayout;
     columna3->addWidget(solar);
+    columna3->addWidget(referencias);
     columna3->addStretch(1);
     auto* cuerpo = new QHBoxLayout;
     cuerpo->setSpacing(8);

@@ -74,6 +74,7 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
 Interruptor* Personal::nuevoInterruptor(QBoxLayout* donde, int indice, bool& campo) {
     auto* s = new Interruptor(ctx_.e, indice);
     s->setEncendido(campo);
+    s->setMinimumWidth(s->sizeHint().width());
     connect(s, &Interruptor::cambiado, this, [&campo](bool si) { campo = si; });
     donde->addWidget(s);
     interruptores_[indice] = s;

@@ -1,0 +1,311 @@
+// The object options, personalisation and configuration forms driven with
+// the mouse as a user would: what each control leaves in the state, what
+// leaving the forms redraws, and the configuration files they write,
+// read and delete.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <fstream>
+#include <memory>
+
+#include "../ui/EntornoQt.h"
+#include "../ui/Falsos.h"
+#include "config/LeeConfiguracion.h"
+#include "dialogs/CargaGuar.h"
+#include "dialogs/Objetos.h"
+#include "dialogs/Personal.h"
+#include "ui/controles/BotonDialogo.h"
+#include "ui/controles/Interruptor.h"
+#include "ui/controles/Potenciometro.h"
+#include "ui/controles/Pulsador.h"
+#include "ui/controles/Selector.h"
+#include "ui/controles/Spin.h"
+
+using namespace vedrano;
+using namespace vedrano::controles;
+
+namespace {
+
+// Answers every question with the next scripted answer and keeps the texts.
+class MensajesGuion : public InterfazMensajes {
+public:
+    int16_t Mensaje(const std::string& texto, const std::string& titulo, int16_t botones, int16_t) override {
+        textos.push_back(texto);
+        titulos.push_back(titulo);
+        if (botones == 1 || respuestas.empty()) return -1;
+        const int16_t r = respuestas.front();
+        respuestas.erase(respuestas.begin());
+        return r;
+    }
+    std::vector<int16_t> respuestas;
+    std::vector<std::string> textos, titulos;
+};
+
+void Pulsa(QWidget* w) { pruebas::Clic(w, QPoint(w->width() / 2, w->height() / 2)); }
+
+// Runs `accion` on the first modal dialog of type T that comes up.
+template <class T>
+void CuandoAparezca(std::function<void(T&)> accion) {
+    auto* t = new QTimer;
+    t->setInterval(5);
+    QObject::connect(t, &QTimer::timeout, [t, accion] {
+        if (auto* d = qobject_cast<T*>(QApplication::activeModalWidget())) {
+            t->stop();
+            t->deleteLater();
+            accion(*d);
+        }
+    });
+    t->start();
+}
+
+class Opciones : public ::testing::Test {
+protected:
+    void SetUp() override {
+        pruebas::AseguraAplicacion();
+        e.Velocidad = 100;
+        ctx = std::make_unique<ContextoDialogo>(ContextoDialogo{
+            e, c, m, nullptr, [this] { ++actualizaciones; }, [this] { ++dibujos; },
+            [this](int t) { temas.push_back(t); }, {}, {}});
+    }
+    Estado e;
+    Catalogos c;
+    MensajesGuion m;
+    pruebas::Falsos f;
+    std::unique_ptr<ContextoDialogo> ctx;
+    int actualizaciones = 0, dibujos = 0;
+    std::vector<int> temas;
+};
+
+TEST_F(Opciones, ObjetosCasillasOpcionesYNiveles) {
+    Objetos d(*ctx);
+    ASSERT_NE(d.casilla(QStringLiteral("Galaxias")), nullptr);
+    // Every layer of the picture has its box, the Earth's excepted.
+    for (const char* t : {"Luz Diurna", "A.R./DEC 15º", "A.R./DEC 30º", "Lim. Constelac.", "Horizonte",
+                          "Eclíptica", "Objetos Messier", "Nebul.Planet.", "Nebul.Difusas", "Cúm.Abiertos",
+                          "Cúm.Globular.", "Quásares", "Púlsares", "Agujeros Negros", "Via Láctea", "Sol", "Luna",
+                          "Mercurio", "Plutón"})
+        EXPECT_NE(d.casilla(QString::fromUtf8(t)), nullptr) << t;
+    EXPECT_EQ(d.casilla(QStringLiteral("Tierra")), nullptr);
+
+    EXPECT_EQ(e.Capas.Galax, 0);
+    Pulsa(d.casilla(QStringLiteral("Galaxias")));
+    EXPECT_EQ(e.Capas.Galax, 1);
+    Pulsa(d.casilla(QStringLiteral("Horizonte")));
+    EXPECT_EQ(e.Capas.Horiz, 0);
+    Pulsa(d.casilla(QString::fromUtf8("Plutón")));
+    EXPECT_EQ(e.Capas.Plane[8], 0);
+    EXPECT_EQ(e.Capas.Plane[7], 1);
+
+    // Option buttons: exactly one on; the one on stays on when clicked.
+    const auto& con = d.opcionesConstelaciones();
+    ASSERT_EQ(con.size(), 4u);
+    EXPECT_TRUE(con[0]->marcada());
+    Pulsa(con[3]);
+    EXPECT_EQ(e.IdConstelaciones, 3);
+    EXPECT_FALSE(con[0]->marcada());
+    EXPECT_TRUE(con[3]->marcada());
+    Pulsa(con[3]);
+    EXPECT_TRUE(con[3]->marcada());
+    EXPECT_EQ(e.IdConstelaciones, 3);
+    Pulsa(d.opcionesEstrellas()[2]);
+    EXPECT_EQ(e.IdEstrellas, 2);
+    Pulsa(d.opcionesMessier()[1]);
+    EXPECT_EQ(e.IdMessier, 1);
+
+    Pulsa(d.identificar());
+    EXPECT_FALSE(e.IdentificarObjetos);
+}
+
+TEST_F(Opciones, ObjetosNivelesPorFlechasYTecleados) {
+    Objetos d(*ctx);
+    Spin* magnitud = d.spin(32);
+    ASSERT_NE(magnitud, nullptr);
+    // Held on the upper key for three steps: level 1 becomes 4.
+    f.reloj.alDormir = [this](int n) {
+        if (n == 6) e.SujecionSpin = false;
+    };
+    const QPoint arriba(magnitud->width() - 10, 8);
+    pruebas::Raton(magnitud, QEvent::MouseMove, arriba);
+    pruebas::Raton(magnitud, QEvent::MouseButtonPress, arriba);
+    EXPECT_EQ(e.NivelEstrellas, 4);
+
+    // Typed values are kept inside the level's range; letters change nothing.
+    Spin* galaxias = d.spin(19);
+    for (auto [texto, esperado] : {std::pair{"9", 4}, {"abc", 4}, {"-3", 1}, {"2", 2}}) {
+        galaxias->campo()->setText(QString::fromLatin1(texto));
+        emit galaxias->campo()->editingFinished();
+        EXPECT_EQ(e.NivelGalaxias, esperado) << texto;
+    }
+}
+
+TEST_F(Opciones, ObjetosAlSalirRedibuja) {
+    CuandoAparezca<Objetos>([](Objetos& d) { Pulsa(d.botonSalir()); });
+    AbreObjetos(*ctx);
+    EXPECT_EQ(dibujos, 1);
+    EXPECT_FALSE(e.Cambiado);
+
+    CuandoAparezca<Objetos>([](Objetos& d) {
+        Pulsa(d.casilla(QStringLiteral("Luna")));
+        Pulsa(d.botonAyuda());
+        Pulsa(d.botonSalir());
+    });
+    AbreObjetos(*ctx);
+    EXPECT_EQ(dibujos, 2);
+    EXPECT_TRUE(e.Cambiado);
+    EXPECT_EQ(e.Capas.Luna, 0);
+    EXPECT_EQ(temas, std::vector<int>{1080});
+}
+
+TEST_F(Opciones, PersonalInterruptoresSelectoresYVelocidad) {
+    Personal d(*ctx);
+    Pulsa(d.interruptor(9));
+    EXPECT_TRUE(e.Sonido);
+    Pulsa(d.interruptor(17));
+    EXPECT_TRUE(e.AnimarTrasCambio);
+    Pulsa(d.interruptor(7));
+    EXPECT_TRUE(e.Precesion);
+    Pulsa(d.interruptor(4));
+    EXPECT_TRUE(e.PanelCursor);
+    Pulsa(d.interruptor(18));
+    EXPECT_TRUE(e.Marcar);
+
+    // The orientation redraws at once; the hour format waits for the exit.
+    Pulsa(d.orientacion());
+    EXPECT_EQ(e.Orientacion, 2);
+    EXPECT_EQ(dibujos, 1);
+    pruebas::Clic(d.orientacion(), QPoint(5, 20), Qt::RightButton);
+    EXPECT_EQ(e.Orientacion, 1);
+    Pulsa(d.formatoHora());
+    EXPECT_NE(e.FormatoHora, 1);
+    EXPECT_EQ(dibujos, 2);
+
+    // A click on the track right of the thumb moves it ten steps.
+    e.Velocidad = 50;
+    d.velocidad()->setPosicion(50);
+    pruebas::Clic(d.velocidad(), QPoint(120, 25));
+    EXPECT_EQ(e.Velocidad, 60);
+}
+
+TEST_F(Opciones, PersonalActualizaSoloSiCambia) {
+    CuandoAparezca<Personal>([](Personal& d) { Pulsa(d.botonSalir()); });
+    AbrePersonal(*ctx);
+    EXPECT_EQ(actualizaciones, 0);
+    EXPECT_FALSE(e.Cambiado);
+
+    CuandoAparezca<Personal>([](Personal& d) {
+        Pulsa(d.formatoHora());
+        Pulsa(d.botonSalir());
+    });
+    AbrePersonal(*ctx);
+    EXPECT_EQ(actualizaciones, 1);
+    EXPECT_TRUE(e.Cambiado);
+    EXPECT_EQ(e.FormatoHora, 2);
+}
+
+class Configuraciones : public Opciones {
+protected:
+    void SetUp() override {
+        Opciones::SetUp();
+        ASSERT_TRUE(dir.isValid());
+        e.DirArchivo = dir.path().toStdString() + "/";
+        for (const char* n : {"b.ls1", "Plut\xC3\xB3n.ls1", "A.LS1", "Temporal.wrk", "notas.txt"})
+            std::ofstream(e.DirArchivo + n) << "x";
+    }
+    QStringList Lista(CargaGuar& d) {
+        QStringList r;
+        for (int i = 0; i < d.lista()->count(); ++i) r << d.lista()->item(i)->text();
+        return r;
+    }
+    std::string Lee(const std::string& n) {
+        std::ifstream f(e.DirArchivo + n, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(f), {});
+    }
+    QTemporaryDir dir;
+};
+
+TEST_F(Configuraciones, ListaSoloLosArchivosDeConfiguracion) {
+    CargaGuar d(*ctx);
+    EXPECT_EQ(Lista(d), (QStringList{"A.LS1", "b.ls1", QString::fromUtf8("Plutón.ls1")}));
+    d.lista()->setCurrentRow(2);
+    EXPECT_EQ(d.nombre()->text(), QString::fromUtf8("Plutón.ls1"));
+}
+
+TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
+    CargaGuar d(*ctx);
+    e.FechaJuliana = 2451545.0;
+    e.Capas.Galax = 1;
+    d.nombre()->setText(QStringLiteral("Prueba"));
+    Pulsa(d.guardar());
+    EXPECT_TRUE(QFile::exists(dir.filePath("Prueba.ls1")));
+    EXPECT_TRUE(Lista(d).contains("Prueba.ls1"));
+    EXPECT_EQ(d.lista()->currentItem()->text(), "Prueba.ls1");
+    const std::string guardado = Lee("Prueba.ls1");
+
+    // Saving again asks; Cancel leaves the file as it was.
+    e.FechaJuliana = 2400000.0;
+    m.respuestas = {0};
+    Pulsa(d.guardar());
+    ASSERT_EQ(m.textos.size(), 1u);
+    EXPECT_NE(m.textos[0].find("Ya existe un archivo"), std::string::npos);
+    EXPECT_EQ(Lee("Prueba.ls1"), guardado);
+
+    // Loading brings the saved situation back and updates the picture.
+    e.Capas.Galax = 0;
+    d.nombre()->setText(QStringLiteral("Prueba"));
+    Pulsa(d.cargar());
+    EXPECT_DOUBLE_EQ(e.FechaJuliana, 2451545.0);
+    EXPECT_EQ(e.Capas.Galax, 1);
+    EXPECT_TRUE(e.Cambiado);
+    EXPECT_EQ(actualizaciones, 1);
+
+    // A name that begins with a point is refused: nothing new is written.
+    d.nombre()->setText(QStringLiteral(".ls1"));
+    Pulsa(d.guardar());
+    EXPECT_FALSE(QFile::exists(dir.filePath(".ls1")));
+    EXPECT_NE(m.textos.back().find("nombre.ls1"), std::string::npos);
+}
+
+TEST_F(Configuraciones, NombreVacioYCarpetaSinEscritura) {
+    CargaGuar d(*ctx);
+    d.nombre()->setText(QStringLiteral("   "));
+    for (Pulsador* b : {d.cargar(), d.guardar(), d.borrar()}) Pulsa(b);
+    EXPECT_EQ(m.textos.size(), 3u);
+    EXPECT_EQ(actualizaciones, 0);
+
+    // A folder that cannot be written: told, and the old file untouched.
+    e.DirArchivo = e.DirArchivo + "notas.txt/";
+    d.nombre()->setText(QStringLiteral("Nueva"));
+    Pulsa(d.guardar());
+    EXPECT_EQ(m.textos.size(), 4u);
+    EXPECT_EQ(Lee("../notas.txt"), "");
+    e.DirArchivo = dir.path().toStdString() + "/";
+    EXPECT_EQ(Lee("notas.txt"), "x");
+}
+
+TEST_F(Configuraciones, BorrarPideConfirmacion) {
+    CargaGuar d(*ctx);
+    d.nombre()->setText(QStringLiteral("b"));
+    m.respuestas = {0};
+    Pulsa(d.borrar());
+    EXPECT_TRUE(QFile::exists(dir.filePath("b.ls1")));
+    m.respuestas = {-1};
+    Pulsa(d.borrar());
+    EXPECT_FALSE(QFile::exists(dir.filePath("b.ls1")));
+    EXPECT_FALSE(Lista(d).contains("b.ls1"));
+    EXPECT_TRUE(d.nombre()->text().isEmpty());
+
+    d.nombre()->setText(QStringLiteral("noexiste.ls1"));
+    Pulsa(d.borrar());
+    EXPECT_EQ(m.textos.back(), "No existe un archivo de configuraci\xF3n con ese nombre.");
+
+    // The switch belongs to the configuration's state.
+    Pulsa(d.incluirAnimacion());
+    EXPECT_TRUE(e.IncluirAnimacion);
+}
+
+}  // namespace
