@@ -1,0 +1,268 @@
+#include "dialogs/Buscar.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QVBoxLayout>
+
+#include "app/ErrorEjecucion.h"
+#include "app/Texto1252.h"
+#include "catalogue/CategoriasLista.h"
+#include "dialogs/FiltroLista.h"
+#include "dialogs/Mensajes.h"
+#include "dialogs/ObjetivoBusqueda.h"
+#include "dialogs/PiezasForma.h"
+#include "dialogs/TextosBuscar.h"
+#include "sky/apunta/Apunta.h"
+#include "ui/controles/BotonDialogo.h"
+#include "ui/controles/ControlDibujado.h"
+#include "ui/controles/Estilo.h"
+
+namespace vedrano {
+
+using controles::BotonDialogo;
+
+namespace {
+
+constexpr int TEMA_AYUDA_BUSCAR = 6;
+constexpr int FILAS_VISIBLES = 18;
+constexpr int COLUMNAS_VISIBLES = 92;
+
+QString DesdeUtf8(const char* t) { return QString::fromUtf8(t); }
+
+// A Messier line begins with its number: "M42" finds it.
+QString ClaveMessier(const QString& linea) {
+    const QString numero = linea.trimmed().section(' ', 0, 0);
+    return numero.isEmpty() ? QString() : QStringLiteral("M") + numero;
+}
+
+}  // namespace
+
+Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : ctx.cielo), ctx_(ctx) {
+    setWindowTitle(QStringLiteral("Buscar Objetos"));
+    setFont(controles::FuenteControles());
+    const QFont columnas = FuenteColumnas();
+    const QFontMetrics fm(columnas);
+
+    titulo_ = new Relieve(DesdeUtf8(TITULO_INDICE), this);
+    titulo_->installEventFilter(this);
+    cabecera_ = new QLabel(this);
+    cabecera_->setFont(columnas);
+    cabecera_->setTextFormat(Qt::PlainText);
+    leyenda_ = new QLabel(this);
+    leyenda_->setFont(columnas);
+    leyenda_->setTextFormat(Qt::PlainText);
+
+    indice_ = new QListWidget(this);
+    VisteLista(indice_, columnas);
+    for (const CategoriaLista& cat : CATEGORIAS_LISTA)
+        if (cat.lista != &ListasCatalogo::Lugares) indice_->addItem(controles::Texto(cat.nombre));
+    connect(indice_, &QListWidget::itemClicked, this, [this](QListWidgetItem* i) { eligeCategoria(indice_->row(i)); });
+    connect(indice_, &QListWidget::itemActivated, this,
+            [this](QListWidgetItem* i) { eligeCategoria(indice_->row(i)); });
+
+    auto* pila = new QGridLayout;
+    pila->addWidget(indice_, 0, 0);
+    for (int k = 0; k < 12; ++k) {
+        auto* l = new QListWidget(this);
+        VisteLista(l, columnas);
+        const auto& lineas = ctx_.c.Listas.*(CATEGORIAS_LISTA[static_cast<std::size_t>(k)].lista);
+        for (const std::string& linea : lineas) {
+            auto* item = new QListWidgetItem(controles::Texto(linea), l);
+            if (k == 1) item->setData(ROL_CLAVE, ClaveMessier(item->text()));
+        }
+        connect(l, &QListWidget::itemDoubleClicked, this, [this] { busca(); });
+        l->viewport()->setMouseTracking(true);
+        l->viewport()->installEventFilter(this);
+        l->hide();
+        listas_[static_cast<std::size_t>(k)] = l;
+        pila->addWidget(l, 0, 0);
+    }
+    const int ancho = fm.horizontalAdvance(QString(COLUMNAS_VISIBLES, 'M')) + 24;
+    indice_->setMinimumSize(ancho, fm.height() * FILAS_VISIBLES);
+
+    filtro_ = new QLineEdit(this);
+    VisteCampo(filtro_);
+    filtro_->setClearButtonEnabled(true);
+    filtro_->setPlaceholderText(QStringLiteral("parte de un nombre o código"));
+    filtro_->setToolTip(QStringLiteral(" Escriba parte de un nombre o código; Intro busca la línea elegida "));
+    connect(filtro_, &QLineEdit::textChanged, this, [this](const QString& t) { FiltraLista(listaVisible(), t); });
+
+    buscar_ = new BotonDialogo(ctx_.e, BotonDialogo::Tipo::Aceptar, this);
+    buscar_->setToolTip(QStringLiteral(" Buscar el objeto elegido "));
+    ayuda_ = new BotonDialogo(ctx_.e, BotonDialogo::Tipo::Ayuda, this);
+    ayuda_->setToolTip(QStringLiteral(" Ayuda sobre Buscar objetos "));
+    salir_ = new BotonDialogo(ctx_.e, BotonDialogo::Tipo::Salir, this);
+    salir_->setToolTip(QStringLiteral(" Salir de Buscar objetos "));
+    connect(buscar_, &BotonDialogo::pulsado, this, [this] { busca(); });
+    connect(ayuda_, &BotonDialogo::pulsado, this, [this] {
+        if (ctx_.Ayuda) ctx_.Ayuda(TEMA_AYUDA_BUSCAR);
+    });
+    connect(salir_, &BotonDialogo::pulsado, this, [this] { sale(); });
+
+    auto* pie = new QHBoxLayout;
+    pie->addWidget(new Relieve(QStringLiteral("Buscar:"), this));
+    pie->addWidget(filtro_, 1);
+    pie->addSpacing(16);
+    pie->addWidget(buscar_);
+    pie->addWidget(ayuda_);
+    pie->addWidget(salir_);
+
+    auto* caja = new QVBoxLayout(this);
+    caja->setContentsMargins(10, 8, 10, 10);
+    caja->setSpacing(4);
+    caja->addWidget(titulo_);
+    caja->addWidget(cabecera_);
+    caja->addLayout(pila, 1);
+    caja->addWidget(leyenda_);
+    caja->addLayout(pie);
+    muestraIndice();
+}
+
+QString Buscar::titulo() const { return titulo_->texto(); }
+QWidget* Buscar::rotulo() const { return titulo_; }
+QString Buscar::cabecera() const { return cabecera_->isVisible() ? cabecera_->text() : QString(); }
+QStringList Buscar::leyenda() const {
+    return leyenda_->isHidden() || leyenda_->text().isEmpty() ? QStringList() : leyenda_->text().split('\n');
+}
+
+QListWidget* Buscar::listaVisible() const {
+    return categoria_ < 0 ? indice_ : listas_[static_cast<std::size_t>(categoria_)];
+}
+
+void Buscar::muestraIndice() {
+    for (QListWidget* l : listas_) l->hide();
+    categoria_ = -1;
+    titulo_->setTexto(DesdeUtf8(TITULO_INDICE));
+    titulo_->setToolTip({});
+    cabecera_->hide();
+    leyenda_->hide();
+    indice_->setCurrentRow(-1);
+    indice_->clearSelection();
+    filtro_->blockSignals(true);
+    filtro_->clear();
+    filtro_->blockSignals(false);
+    FiltraLista(indice_, {});
+    indice_->show();
+}
+
+void Buscar::eligeCategoria(int categoria) {
+    if (categoria < 0 || categoria >= 12) return;
+    const TextosCategoria& t = TEXTOS_CATEGORIAS[static_cast<std::size_t>(categoria)];
+    indice_->hide();
+    categoria_ = categoria;
+    titulo_->setTexto(indice_->item(categoria)->text());
+    titulo_->setToolTip(QStringLiteral(" Volver al Índice General "));
+    cabecera_->setText(DesdeUtf8(t.cabecera));
+    cabecera_->show();
+    QStringList lineas;
+    for (const char* l : t.leyenda) lineas << DesdeUtf8(l);
+    leyenda_->setText(lineas.join('\n'));
+    leyenda_->setVisible(!lineas.isEmpty());
+    filtro_->blockSignals(true);
+    filtro_->clear();
+    filtro_->blockSignals(false);
+    QListWidget* l = listas_[static_cast<std::size_t>(categoria)];
+    FiltraLista(l, {});
+    l->show();
+    filtro_->setFocus();
+}
+
+void Buscar::busca() {
+    if (categoria_ < 0) return;
+    QListWidget* l = listas_[static_cast<std::size_t>(categoria_)];
+    QListWidgetItem* item = l->currentItem();
+    const int linea = item && item->isSelected() && !item->isHidden() ? l->row(item) : -1;
+    Estado& e = ctx_.e;
+    controles::FijaCursor(e, this, 11);  // the wait pointer while the target is computed
+    try {
+        FijaObjetivo(e, ctx_.c, categoria_, linea);
+    } catch (const ErrorEjecucion& err) {
+        controles::FijaCursor(e, this, 0);
+        MuestraMensaje(e, this, A1252("ERROR BUS" + std::to_string(err.numero()) + ": línea fuera de la lista"),
+                       "Buscar Objetos", 1, 1);
+        return;
+    }
+    if (e.ObjetivoAR == 0.0 && e.ObjetivoDEC == 0.0) {
+        controles::FijaCursor(e, this, 0);
+        return;
+    }
+    e.Centrado = false;
+    CentraObjeto(e, ctx_.c.TablaPlanetas, ctx_.mensajes);
+    controles::FijaCursor(e, this, 0);
+    if (e.Centrado) {
+        e.Cambiado = true;
+        done(QDialog::Accepted);
+        if (ctx_.DibujaCielo) ctx_.DibujaCielo();
+    }
+}
+
+void Buscar::sale() {
+    muestraIndice();
+    done(QDialog::Rejected);
+}
+
+void Buscar::paintEvent(QPaintEvent*) { PintaFondoForma(this); }
+
+void Buscar::keyPressEvent(QKeyEvent* ev) {
+    switch (ev->key()) {
+        case Qt::Key_Escape:
+            controles::Suena(ctx_.e, 1, 9);
+            sale();
+            return;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            // The search box lets Enter through to here: one search per key.
+            if (categoria_ >= 0) busca();
+            else if (QListWidgetItem* i = indice_->currentItem()) eligeCategoria(indice_->row(i));
+            return;
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown: {
+            // The arrows move through the open list while the search box has the focus.
+            QListWidget* l = listaVisible();
+            QKeyEvent copia(ev->type(), ev->key(), ev->modifiers());
+            QCoreApplication::sendEvent(l, &copia);
+            if (QListWidgetItem* i = l->currentItem()) i->setSelected(true);
+            return;
+        }
+        default:
+            // Typing anywhere goes to the search box.
+            if (!ev->text().isEmpty() && ev->text().at(0).isPrint()) {
+                filtro_->setFocus();
+                filtro_->insert(ev->text());
+                return;
+            }
+            QDialog::keyPressEvent(ev);
+    }
+}
+
+void Buscar::closeEvent(QCloseEvent* ev) {
+    muestraIndice();
+    QDialog::closeEvent(ev);
+}
+
+bool Buscar::eventFilter(QObject* objeto, QEvent* ev) {
+    // The caption leads back to the general index.
+    if (objeto == titulo_) {
+        if (ev->type() == QEvent::MouseButtonRelease && categoria_ >= 0) muestraIndice();
+        return QDialog::eventFilter(objeto, ev);
+    }
+    if (ev->type() == QEvent::MouseMove && ctx_.e.CursorActual != 21)
+        controles::FijaCursor(ctx_.e, static_cast<QWidget*>(objeto), 21);
+    return QDialog::eventFilter(objeto, ev);
+}
+
+void AbreBuscar(ContextoDialogo& ctx) {
+    ctx.e.Cambiado = false;
+    Buscar forma(ctx);
+    MuestraCentrado(forma, ctx.cielo);
+}
+
+}  // namespace vedrano

@@ -1,0 +1,42 @@
+// The column header and legend shown above and below each list of the
+// search form, in the order of the general index. UTF-8 here; the form
+// turns them into program text with A1252.
+#pragma once
+#include <array>
+#include <vector>
+
+namespace vedrano {
+
+struct TextosCategoria {
+    const char* cabecera;
+    std::vector<const char*> leyenda;  // one text per line
+};
+
+inline const char* const CABECERA_PROFUNDO = "   Código  Magn.     A. R.           DEC";
+inline const char* const CABECERA_CODIGO4 = "    Código             A. R.           DEC";
+inline const char* const CABECERA_CODIGO3 = "   Código             A. R.           DEC";
+
+inline const std::array<TextosCategoria, 12> TEXTOS_CATEGORIAS = {{
+    {"              1        2        3     4       5          6      7       8      9",
+     {" 1 -> Diámetro ecuatorial (Kms.)", " 2 -> Masa con respecto a la Tierra",
+      " 3 -> Inclinación del ecuador con respecto a la órbita (Grados)",
+      " 4 -> Gravedad superficial con respecto a la Tierra", " 5 -> Periodo sideral de rotación",
+      " 6 -> Semieje mayor de la órbita (U.A.)", " 7 -> Excentricidad de la órbita",
+      " 8 -> Periodo sideral orbital (Dias)", " 9 -> Periodo sinódico orbital (Dias)"}},
+    {" Nro.  NGC       Tipo               Nombre        Mag.Vis.     A.R.         DEC", {}},
+    {" Abrev. Nombre latino         Genitivo              Nombre castellano      Visible", {}},
+    {"   Código   A.R.     DEC.   Mag T   Nombre",
+     {"Tipo =>    M : Múltiple     V : Variable     X : Múltiple variable"}},
+    {CABECERA_PROFUNDO, {"Magnitudes =>   1 : >30'    2 : >20'    3 : >10'    4 : <10'"}},
+    {CABECERA_PROFUNDO, {"Magnitudes =>     1 : >1'     2 : <1' "}},
+    {CABECERA_PROFUNDO, {"Magnitudes =>     1 : >10'     2 : <10' "}},
+    {CABECERA_CODIGO4, {}},
+    {CABECERA_CODIGO4, {}},
+    {CABECERA_CODIGO4, {}},
+    {CABECERA_CODIGO3, {}},
+    {CABECERA_CODIGO3, {}},
+}};
+
+inline const char* const TITULO_INDICE = "Índice General";
+
+}  // namespace vedrano

@@ -1,0 +1,64 @@
+// What the search, location and printing tests share: the catalogues read
+// once from Datos/, a state whose work file goes to a temporary folder, a
+// sky picture that the context's redraws paint, and the messages noted.
+#pragma once
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "app/Texto1252.h"
+#include "astro/Tiempo.h"
+#include "catalogue/CargaCatalogos.h"
+#include "dialogs/ContextoDialogo.h"
+#include "sky/DibujaCielo.h"
+
+namespace pruebas {
+
+struct AvisosCarga : vedrano::Notificador {
+    void Avisa(const std::string&, const std::string&) override {}
+};
+
+inline const vedrano::Catalogos& CatalogosDatos() {
+    static const vedrano::Catalogos c = [] {
+        vedrano::Catalogos cat;
+        AvisosCarga a;
+        vedrano::CargaCatalogos(VEDRANO_DATOS, cat, a);
+        return cat;
+    }();
+    return c;
+}
+
+struct MensajesAnotados : vedrano::InterfazMensajes {
+    std::vector<std::string> textos;
+    int16_t Mensaje(const std::string& t, const std::string&, int16_t, int16_t) override {
+        textos.push_back(vedrano::DesdeA1252(t));
+        return 1;
+    }
+};
+
+struct EntornoDialogo {
+    explicit EntornoDialogo(const vedrano::Catalogos& cat = CatalogosDatos())
+        : c(cat), ctx{e, c, mensajes, nullptr, {}, {}, {}, {}, {}} {
+        e.DirArchivo = (std::filesystem::temp_directory_path() / "vedrano_dialogos").string() + "/";
+        std::filesystem::create_directories(e.DirArchivo);
+        e.Velocidad = 100;
+        ctx.ActualizaCielo = [this] {
+            ++actualizaciones;
+            vedrano::ActualizaCielo(e, c, lienzo);
+        };
+        ctx.DibujaCielo = [this] {
+            ++redibujos;
+            vedrano::AjustaEscalaLienzo(e, lienzo);
+            vedrano::DibujaCielo(e, c, lienzo);
+        };
+        vedrano::ActualizaCielo(e, c, lienzo);
+    }
+    vedrano::Estado e;
+    const vedrano::Catalogos& c;
+    MensajesAnotados mensajes;
+    vedrano::Lienzo lienzo{800, 600};
+    vedrano::ContextoDialogo ctx;
+    int redibujos = 0, actualizaciones = 0;
+};
+
+}  // namespace pruebas

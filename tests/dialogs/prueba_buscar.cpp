@@ -1,0 +1,246 @@
+// The search form driven as a user does: a category of the index, a line
+// found by typing part of its name, the search button, a double-click, or
+// Enter; the object found must stand at the centre of the redrawn sky.
+#include <gtest/gtest.h>
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <cmath>
+
+#include "../ui/EntornoQt.h"
+#include "../ui/Falsos.h"
+#include "ContextoPrueba.h"
+#include "app/Constantes.h"
+#include "astro/Coordenadas.h"
+#include "astro/Planetas.h"
+#include "astro/Sidereo.h"
+#include "dialogs/Buscar.h"
+#include "sky/proyeccion/Proyeccion.h"
+#include "ui/controles/BotonDialogo.h"
+
+using namespace vedrano;
+
+namespace {
+
+void Pulsa(QWidget* w) { pruebas::Clic(w, QPoint(w->width() / 2, w->height() / 2)); }
+
+void ClicLinea(QListWidget* l, int fila, bool doble = false) {
+    l->scrollToItem(l->item(fila));
+    const QPoint p = l->visualItemRect(l->item(fila)).center();
+    pruebas::Clic(l->viewport(), p);
+    if (doble) {
+        QMouseEvent ev(QEvent::MouseButtonDblClick, QPointF(p), QPointF(l->viewport()->mapToGlobal(p)),
+                       Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(l->viewport(), &ev);
+        pruebas::Raton(l->viewport(), QEvent::MouseButtonRelease, p);
+    }
+}
+
+void Escribe(QWidget* w, const QString& texto) {
+    for (QChar ch : texto) {
+        QKeyEvent ev(QEvent::KeyPress, 0, Qt::NoModifier, QString(ch));
+        QCoreApplication::sendEvent(w, &ev);
+    }
+}
+
+void Tecla(QWidget* w, int tecla) {
+    QKeyEvent ev(QEvent::KeyPress, tecla, Qt::NoModifier);
+    QCoreApplication::sendEvent(w, &ev);
+}
+
+// Pixels from the picture's centre to a direction, after the redraw.
+double PixelesDelCentro(pruebas::EntornoDialogo& d, double ar, double dec) {
+    PuntoProyectado p = ProyectaPunto(d.e, AngulosAVector(ar, dec));
+    EXPECT_GT(p.Z, 0.9f);  // in front, near the line of sight
+    return std::hypot(p.X, p.Y) * d.lienzo.PixelesPorUnidad();
+}
+
+// The pixels one degree spans at the centre of the 800 x 600 picture.
+double PixelesPorGrado(pruebas::EntornoDialogo& d) {
+    return GRADO * d.e.Zoom * d.lienzo.PixelesPorUnidad();
+}
+
+class BuscarObjetos : public ::testing::Test {
+protected:
+    void SetUp() override {
+        d.e.FechaJuliana = 2460700.25;  // 24 January 2025, 18:00 UT: Mars near opposition, Orion up
+        d.ctx.ActualizaCielo();
+    }
+    // Opens category `c`, types `filtro`, and presses the search button.
+    void BuscaPorBoton(Buscar& b, int c, const QString& filtro) {
+        ClicLinea(b.indice(), c);
+        ASSERT_EQ(b.categoria(), c);
+        Escribe(b.filtro(), filtro);
+        Pulsa(b.botonBuscar());
+    }
+    pruebas::Falsos f;
+    pruebas::EntornoDialogo d;
+};
+
+}  // namespace
+
+TEST_F(BuscarObjetos, CategoriasConSuCabeceraYLeyenda) {
+    Buscar b(d.ctx);
+    b.show();
+    EXPECT_EQ(b.titulo(), QStringLiteral("Índice General"));
+    ASSERT_EQ(b.indice()->count(), 12);
+    EXPECT_EQ(b.indice()->item(7)->text(), QStringLiteral("Cúmulos Abiertos"));
+    ClicLinea(b.indice(), 3);
+    EXPECT_TRUE(b.indice()->isHidden());
+    EXPECT_TRUE(b.lista(3)->isVisible());
+    EXPECT_EQ(b.titulo(), QStringLiteral("Estrellas"));
+    EXPECT_EQ(b.cabecera(), QStringLiteral("   Código   A.R.     DEC.   Mag T   Nombre"));
+    EXPECT_EQ(b.leyenda(), QStringList{QStringLiteral("Tipo =>    M : Múltiple     V : Variable     X : Múltiple variable")});
+    EXPECT_EQ(b.lista(3)->count(), static_cast<int>(d.c.Listas.Estrellas.size()));
+    // The caption leads back to the index; the solar system has nine legend lines.
+    pruebas::Clic(b.rotulo(), {3, 3});
+    EXPECT_EQ(b.categoria(), -1);
+    EXPECT_TRUE(b.indice()->isVisible());
+    ClicLinea(b.indice(), 0);
+    EXPECT_EQ(b.leyenda().size(), 9);
+    EXPECT_EQ(b.leyenda().front(), QStringLiteral(" 1 -> Diámetro ecuatorial (Kms.)"));
+    ClicLinea(b.indice(), 10);
+    EXPECT_EQ(b.cabecera(), QStringLiteral("   Código             A. R.           DEC"));
+    EXPECT_TRUE(b.leyenda().isEmpty());
+}
+
+TEST_F(BuscarObjetos, ElFiltroIgnoraAcentosYMayusculas) {
+    Buscar b(d.ctx);
+    b.show();
+    ClicLinea(b.indice(), 2);
+    Escribe(b.filtro(), QStringLiteral("ORION"));
+    int visibles = 0;
+    for (int i = 0; i < b.lista(2)->count(); ++i) visibles += !b.lista(2)->item(i)->isHidden();
+    EXPECT_EQ(visibles, 1);
+    EXPECT_TRUE(b.lista(2)->currentItem()->text().contains(QStringLiteral("Orión")));
+    // "M42" finds the Messier line that starts with its number only.
+    b.muestraIndice();
+    ClicLinea(b.indice(), 1);
+    Escribe(b.filtro(), QStringLiteral("m42"));
+    EXPECT_EQ(b.lista(1)->currentRow(), 41);
+    // Nothing matches: no line stays selected, and searching does nothing.
+    b.filtro()->clear();
+    Escribe(b.filtro(), QStringLiteral("zzzz"));
+    const double antes = d.e.FechaJuliana;
+    Tecla(b.filtro(), Qt::Key_Return);
+    EXPECT_EQ(d.e.FechaJuliana, antes);
+    EXPECT_TRUE(b.isVisible());
+}
+
+TEST_F(BuscarObjetos, CentraEstrellasObjetosYConstelaciones) {
+    struct Caso {
+        int categoria;
+        QString filtro;
+        double ar, dec;  // where the object is, independently of the lists
+    } casos[] = {
+        {1, QStringLiteral("M42"), (5 + 35.3 / 60) * 15 * GRADO, -(5 + 23.0 / 60) * GRADO},
+        {3, QStringLiteral("sirio"), (6 + 45.15 / 60) * 15 * GRADO, -(16 + 43.0 / 60) * GRADO},
+        {2, QStringLiteral("Orión"), 5.5 * 15 * GRADO, 5 * GRADO},
+    };
+    for (const Caso& caso : casos) {
+        pruebas::EntornoDialogo d2;
+        d2.e.FechaJuliana = d.e.FechaJuliana;
+        d2.ctx.ActualizaCielo();
+        Buscar b(d2.ctx);
+        b.show();
+        BuscaPorBoton(b, caso.categoria, caso.filtro);
+        EXPECT_FALSE(b.isVisible()) << caso.filtro.toStdString();
+        EXPECT_TRUE(d2.e.Centrado);
+        EXPECT_TRUE(d2.e.Cambiado);
+        EXPECT_EQ(d2.redibujos, 1);
+        // Within the solar-day step's error (under a degree) of the centre;
+        // a constellation's centre is its label's place, within a few degrees.
+        const double px = PixelesDelCentro(d2, d2.e.ObjetivoAR, d2.e.ObjetivoDEC);
+        EXPECT_LT(px, 1.0 * PixelesPorGrado(d2)) << caso.filtro.toStdString();
+        const double deLaFuente = PixelesDelCentro(d2, caso.ar, caso.dec);
+        EXPECT_LT(deLaFuente, (caso.categoria == 2 ? 15.0 : 1.2) * PixelesPorGrado(d2)) << caso.filtro.toStdString();
+        std::printf("%s: %.1f px del centro (%.1f px por grado)\n", caso.filtro.toUtf8().constData(), px,
+                    PixelesPorGrado(d2));
+    }
+}
+
+TEST_F(BuscarObjetos, CentraMarteYLaLuna) {
+    for (int linea : {3, 10}) {
+        pruebas::EntornoDialogo d2;
+        d2.e.FechaJuliana = d.e.FechaJuliana;
+        d2.ctx.ActualizaCielo();
+        Buscar b(d2.ctx);
+        b.show();
+        ClicLinea(b.indice(), 0);
+        ClicLinea(b.lista(0), linea);
+        Pulsa(b.botonBuscar());
+        ASSERT_TRUE(d2.e.Centrado) << linea;
+        // Where the body is at the new instant.
+        HallaSol(d2.e, d2.c.TablaPlanetas);
+        if (linea == 3) HallaPlaneta(d2.e, d2.c.TablaPlanetas, 4);
+        else HallaLuna(d2.e);
+        const PosicionCuerpo& p = d2.e.Planetas[linea == 3 ? 4 : 11];
+        const double px = PixelesDelCentro(d2, p.AscRecta, p.Declinacion);
+        // The Moon's one-shot correction makes up most of its own motion.
+        EXPECT_LT(px, (linea == 3 ? 1.0 : 2.5) * PixelesPorGrado(d2)) << linea;
+        EXPECT_FALSE(d2.e.CorreccionLuna);
+        std::printf("%s: %.1f px del centro\n", linea == 3 ? "Marte" : "Luna", px);
+    }
+}
+
+TEST_F(BuscarObjetos, ListasDeLecturaYTierraNoCentranNada) {
+    Buscar b(d.ctx);
+    b.show();
+    const double antes = d.e.FechaJuliana;
+    for (int c = 7; c <= 11; ++c) {
+        b.muestraIndice();
+        ClicLinea(b.indice(), c);
+        ClicLinea(b.lista(c), 0);
+        Pulsa(b.botonBuscar());
+        EXPECT_TRUE(b.isVisible()) << c;
+    }
+    b.muestraIndice();
+    ClicLinea(b.indice(), 0);
+    ClicLinea(b.lista(0), 2);  // the Earth
+    Pulsa(b.botonBuscar());
+    // No line selected at all.
+    b.muestraIndice();
+    ClicLinea(b.indice(), 1);
+    Pulsa(b.botonBuscar());
+    EXPECT_TRUE(b.isVisible());
+    EXPECT_EQ(d.e.FechaJuliana, antes);
+    EXPECT_EQ(d.redibujos, 0);
+    EXPECT_TRUE(d.mensajes.textos.empty());
+}
+
+TEST_F(BuscarObjetos, DobleClicEsElegirYBuscar) {
+    pruebas::EntornoDialogo a, b;
+    for (auto* x : {&a, &b}) {
+        x->e.FechaJuliana = d.e.FechaJuliana;
+        x->ctx.ActualizaCielo();
+    }
+    Buscar fa(a.ctx), fb(b.ctx);
+    fa.show();
+    fb.show();
+    ClicLinea(fa.indice(), 4);
+    ClicLinea(fa.lista(4), 0);
+    Pulsa(fa.botonBuscar());
+    ClicLinea(fb.indice(), 4);
+    ClicLinea(fb.lista(4), 0, true);
+    ASSERT_TRUE(a.e.Centrado);
+    EXPECT_EQ(a.e.FechaJuliana, b.e.FechaJuliana);
+    EXPECT_EQ(a.e.Direccion, b.e.Direccion);
+    EXPECT_EQ(a.e.Elevacion, b.e.Elevacion);
+    EXPECT_FALSE(fb.isVisible());
+}
+
+TEST_F(BuscarObjetos, NuncaSaleRechazaConSuMensaje) {
+    d.e.Latitud = 60 * GRADO;  // the southern sky's pole region never rises
+    d.ctx.ActualizaCielo();
+    Buscar b(d.ctx);
+    b.show();
+    ClicLinea(b.indice(), 3);
+    Escribe(b.filtro(), QStringLiteral("Canopus"));
+    const double antes = d.e.FechaJuliana;
+    Tecla(b.filtro(), Qt::Key_Return);
+    ASSERT_EQ(d.mensajes.textos.size(), 1u);
+    EXPECT_NE(d.mensajes.textos[0].find("bajo  el  horizonte"), std::string::npos);
+    EXPECT_EQ(d.e.FechaJuliana, antes);
+    EXPECT_TRUE(b.isVisible());
+}
