@@ -1,7 +1,6 @@
 #include "dialogs/Careta.h"
 
 #include <QApplication>
-#include <QEvent>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QRandomGenerator>
@@ -19,7 +18,7 @@ using namespace controles;
 
 namespace {
 
-constexpr int ANCHO = 460, ALTO = 300, MARGEN = 10;
+constexpr int ANCHO = 460, ALTO = 280, MARGEN = 10;
 constexpr int TIEMPO_BASE = 800;  // ms at speed 100
 
 // Orion, in picture fractions, with the figure's strokes: the shoulders,
@@ -78,7 +77,8 @@ void DibujaCieloCareta(QPainter& p, const QRect& r) {
 
 }  // namespace
 
-Careta::Careta(const Estado& e) : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint), e_(e) {
+Careta::Careta(const Estado& e)
+    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint), e_(e) {
     setAttribute(Qt::WA_DeleteOnClose);
     setFixedSize(ANCHO, ALTO);
     setWindowTitle(QStringLiteral("VEDRANO"));
@@ -91,19 +91,10 @@ int Careta::tiempoMinimo() const {
 
 void Careta::cierraCuandoListo(QWidget* cielo) {
     cielo_ = cielo;
-    if (!cielo) return;
-    if (cielo->isActiveWindow())
-        cierraPronto();
-    else
-        cielo->installEventFilter(this);
-}
-
-bool Careta::eventFilter(QObject* objeto, QEvent* ev) {
-    if (objeto == cielo_ && ev->type() == QEvent::WindowActivate) {
-        cielo_->removeEventFilter(this);
-        cierraPronto();
-    }
-    return QWidget::eventFilter(objeto, ev);
+    // The main window was shown after the cover: without a window manager
+    // that keeps the cover on top it would now be hidden behind it.
+    raise();
+    cierraPronto();
 }
 
 void Careta::cierraPronto() {
@@ -115,7 +106,7 @@ void Careta::cierraPronto() {
 
 void Careta::mouseReleaseEvent(QMouseEvent*) {
     // A click dismisses the cover only once the program is ready for it.
-    if (cerrando_ || (cielo_ && cielo_->isActiveWindow())) close();
+    if (cerrando_) close();
 }
 
 void Careta::paintEvent(QPaintEvent*) {
@@ -129,7 +120,7 @@ void Careta::paintEvent(QPaintEvent*) {
     p.drawLine(0, r.height() - 1, r.width() - 1, r.height() - 1);
     p.drawLine(r.width() - 1, 0, r.width() - 1, r.height() - 1);
 
-    const QRect cielo(MARGEN, MARGEN, r.width() - 2 * MARGEN, r.height() - 2 * MARGEN - 52);
+    const QRect cielo(MARGEN, MARGEN, r.width() - 2 * MARGEN, r.height() - 2 * MARGEN - 32);
     DibujaCieloCareta(p, cielo);
     // Sunken frame round the picture.
     p.setPen(GRIS_OSCURO);
@@ -166,9 +157,6 @@ void Careta::paintEvent(QPaintEvent*) {
         p.setPen(AZUL);
         p.drawText(x + 1, y + fm.ascent() + 1, texto);
     }
-    p.setFont(FuenteControles());
-    const QString aviso = QStringLiteral("Cargando catálogos...");
-    ImprimeEtiqueta(p, (r.width() - QFontMetrics(FuenteControles()).horizontalAdvance(aviso)) / 2, y + 22, aviso);
 }
 
 Careta* AbreCareta(const Estado& e) {

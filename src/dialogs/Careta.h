@@ -1,6 +1,6 @@
 // The cover shown while the program starts: the name, the version and a
-// picture of the sky. It goes away by itself once the main window has been
-// activated, after having been seen for a moment.
+// picture of the sky. Told that the main window is ready, it goes away by
+// itself once it has been seen for a moment.
 #pragma once
 #include <QElapsedTimer>
 #include <QPointer>
@@ -14,7 +14,8 @@ class Careta : public QWidget {
     Q_OBJECT
 public:
     explicit Careta(const Estado& e);
-    // Closes when `cielo` becomes the active window (at once if it already is).
+    // `cielo` is ready: the cover stays above it for what is left of its
+    // minimum time, then closes.
     void cierraCuandoListo(QWidget* cielo);
     // How long the cover stays at least, in ms: scaled by the speed setting.
     int tiempoMinimo() const;
@@ -22,7 +23,6 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
-    bool eventFilter(QObject* objeto, QEvent* ev) override;
 
 private:
     void cierraPronto();
