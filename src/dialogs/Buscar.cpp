@@ -85,6 +85,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     }
     const int ancho = fm.horizontalAdvance(QString(COLUMNAS_VISIBLES, 'M')) + 24;
     indice_->setMinimumSize(ancho, fm.height() * FILAS_VISIBLES);
+    for (QListWidget* l : listas_) l->setMinimumSize(ancho, fm.height() * FILAS_VISIBLES);
 
     filtro_ = new QLineEdit(this);
     VisteCampo(filtro_);
@@ -155,6 +156,7 @@ void Buscar::eligeCategoria(int categoria) {
     if (categoria < 0 || categoria >= 12) return;
     const TextosCategoria& t = TEXTOS_CATEGORIAS[static_cast<std::size_t>(categoria)];
     indice_->hide();
+    for (QListWidget* l : listas_) l->hide();
     categoria_ = categoria;
     titulo_->setTexto(indice_->item(categoria)->text());
     titulo_->setToolTip(QStringLiteral(" Volver al Índice General "));
