@@ -1,0 +1,117 @@
+#include "sky/PaginaImpresa.h"
+
+#include <QFileInfo>
+#include <QFontMetricsF>
+#include <QPageLayout>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <QPdfWriter>
+#include <algorithm>
+#include <cmath>
+
+#include "app/Texto1252.h"
+#include "astro/TextosAngulo.h"
+#include "sky/DibujaCielo.h"
+
+namespace vedrano {
+
+namespace {
+
+constexpr double MARGEN_MM = 12.0;
+constexpr double PUNTOS_POR_MM = 6.0;  // the picture's resolution, about 150 per inch
+constexpr double ALTO_TITULO_MM = 22.0;
+
+QString Utf8(const std::string& cp1252) { return QString::fromStdString(DesdeA1252(cp1252)).trimmed(); }
+
+}  // namespace
+
+QImage ImagenParaTinta(const QImage& cielo) {
+    QImage r = cielo.convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < r.height(); ++y) {
+        auto* fila = reinterpret_cast<QRgb*>(r.scanLine(y));
+        for (int x = 0; x < r.width(); ++x) {
+            QColor c = QColor::fromRgb(fila[x]).toHsl();
+            c.setHsl(c.hslHue(), c.hslSaturation(), 255 - c.lightness());
+            fila[x] = c.rgb();
+        }
+    }
+    return r;
+}
+
+QStringList LineasTitulo(Estado& e) {
+    ActualizaPanel(e);
+    QStringList lineas;
+    if (e.DatosLocalizacion) {
+        lineas << QStringLiteral("%1    Longitud: %2    Latitud: %3")
+                      .arg(Utf8(e.TextoLugar), Utf8(TextoLongitud(e.Longitud)), Utf8(TextoLatitud(e.Latitud)));
+    } else {
+        lineas << QStringLiteral("VEDRANO");
+    }
+    QString zona = QString::number(e.ZonaHoraria, 'f', 1).replace('.', ',');
+    if (e.ZonaHoraria >= 0) zona.prepend('+');
+    lineas << QStringLiteral("Fecha local: %1  %2 (zona %3%4)    %5  %6    %7")
+                  .arg(Utf8(e.Panel.FechaLocal).remove(QStringLiteral("F. L. = ")), Utf8(e.Panel.HoraLocal), zona,
+                       e.HorarioVerano ? QStringLiteral(", horario de verano") : QString(), Utf8(e.Panel.FechaUniversal),
+                       Utf8(e.Panel.HoraUniversal), Utf8(e.Panel.DiaJuliano));
+    lineas << QStringLiteral("%1    %2    %3").arg(Utf8(e.Panel.Direccion), Utf8(e.Panel.Elevacion), Utf8(e.Panel.Zoom));
+    return lineas;
+}
+
+bool ImprimePagina(QPagedPaintDevice& dispositivo, const Estado& estado, const Catalogos& c) {
+    Estado e = estado;  // the main window's view stays as it is
+    const double anchoMm = e.AnchoMm, altoMm = e.AltoMm;
+
+    QPageLayout disposicion(QPageSize(QPageSize::A4),
+                            anchoMm > 210.0 - 2 * MARGEN_MM ? QPageLayout::Landscape : QPageLayout::Portrait,
+                            QMarginsF(MARGEN_MM, MARGEN_MM, MARGEN_MM, MARGEN_MM), QPageLayout::Millimeter);
+    dispositivo.setPageLayout(disposicion);
+    const QRectF util = dispositivo.pageLayout().paintRect(QPageLayout::Millimeter);
+
+    // A picture larger than the page allows is shrunk, keeping its shape.
+    const double cabe = std::min({1.0, util.width() / anchoMm, (util.height() - ALTO_TITULO_MM) / altoMm});
+    const double wMm = anchoMm * cabe, hMm = altoMm * cabe;
+
+    Lienzo lienzo(std::max(16, static_cast<int>(std::lround(wMm * PUNTOS_POR_MM))),
+                  std::max(16, static_cast<int>(std::lround(hMm * PUNTOS_POR_MM))));
+    ActualizaCielo(e, c, lienzo);
+    const QImage imagen = e.ImagenEnPantalla ? lienzo.Imagen() : ImagenParaTinta(lienzo.Imagen());
+    const QStringList titulo = LineasTitulo(e);
+
+    QPainter p;
+    if (!p.begin(&dispositivo)) return false;
+    // Millimetres from the top left of the printable area, in device pixels.
+    const double kx = dispositivo.logicalDpiX() / 25.4, ky = dispositivo.logicalDpiY() / 25.4;
+    QFont grande(QStringLiteral("Helvetica"));
+    grande.setStyleHint(QFont::SansSerif);
+    grande.setPointSizeF(11);
+    grande.setBold(true);
+    QFont normal = grande;
+    normal.setPointSizeF(9);
+    normal.setBold(false);
+
+    p.setPen(Qt::black);
+    p.setFont(grande);
+    double y = 5.0;
+    p.drawText(QPointF(0, y * ky), titulo.value(0));
+    y += 6.0;
+    p.setFont(normal);
+    for (int i = 1; i < titulo.size(); ++i, y += 4.8) p.drawText(QPointF(0, y * ky), titulo[i]);
+
+    const QRectF marco((util.width() - wMm) / 2.0 * kx, ALTO_TITULO_MM * ky, wMm * kx, hMm * ky);
+    p.drawImage(marco, imagen);
+    p.setPen(QPen(Qt::black, 0.3 * kx));
+    p.setBrush(Qt::NoBrush);
+    p.drawRect(marco);
+    return p.end();
+}
+
+bool EscribePdf(const QString& archivo, const Estado& e, const Catalogos& c) {
+    QPdfWriter pdf(archivo);
+    if (QFileInfo(archivo).fileName().isEmpty()) return false;
+    pdf.setResolution(300);
+    pdf.setCreator(QStringLiteral("VEDRANO"));
+    pdf.setTitle(QStringLiteral("Cielo"));
+    return ImprimePagina(pdf, e, c);
+}
+
+}  // namespace vedrano
