@@ -11,6 +11,7 @@
 #include "cli/CarpetaDatos.h"
 #include "config/LeeConfiguracion.h"
 #include "sky/DibujaCielo.h"
+#include "sky/PaginaImpresa.h"
 
 namespace vedrano {
 
@@ -81,6 +82,15 @@ int ComandoDibuja(int argc, char** argv) {
     e.DirDatos = datos;
     ResultadoConfiguracion r = LeeConfiguracion(e, A1252(archivo.filename().string()), consola);
     if (r.error == 53 && !config.empty()) return 1;
+
+    // A name ending in ".pdf" gets the printed page, title block included.
+    if (QString::fromStdString(salida).endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
+        if (!EscribePdf(QString::fromStdString(salida), e, catalogos)) {
+            std::cerr << "vedrano-cli dibuja: no se puede escribir el PDF en " << salida << "\n";
+            return 1;
+        }
+        return 0;
+    }
 
     Lienzo lienzo(ancho, alto);
     ActualizaCielo(e, catalogos, lienzo);
