@@ -1,12 +1,14 @@
 #include "dialogs/Personal.h"
 
 #include <QBoxLayout>
+#include <cmath>
 #include <tuple>
 
 #include "app/TablasControles.h"
 #include "ui/controles/Interruptor.h"
 #include "ui/controles/Potenciometro.h"
 #include "ui/controles/Selector.h"
+#include "ui/controles/Spin.h"
 
 namespace vedrano {
 
@@ -16,7 +18,8 @@ namespace {
 
 auto Ajustes(const Estado& e) {
     return std::make_tuple(e.Sonido, e.Velocidad, e.FormatoHora, e.Orientacion, e.AnimarTrasCambio, e.Precesion,
-                           e.PanelCursor, e.Marcar);
+                           e.PanelCursor, e.Marcar, e.PanelControl, e.PanelLocalizacion, e.PanelObjetos,
+                           e.Telescopio, e.CampoTelescopio);
 }
 
 }  // namespace
@@ -44,6 +47,22 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
     });
     cielo->contenido()->addWidget(orientacion_);
     nuevoInterruptor(cielo->contenido(), 7, e.Precesion);
+    // The telescope circle and its field, shown in degrees and kept in radians.
+    nuevoInterruptor(cielo->contenido(), 8, e.Telescopio);
+    auto* campo = new Spin(e, 24);
+    campo->setValor(static_cast<float>(e.CampoTelescopio * 57.29577951289617));
+    campo->setAlmacen([&e](float grados) {
+        // Only a new value is stored: the tenths of a degree shown are a
+        // rounding of the radians kept.
+        if (std::fabs(grados - e.CampoTelescopio * 57.29577951289617) > 0.01)
+            e.CampoTelescopio = grados / 57.29577951289617;
+    });
+    cielo->contenido()->addWidget(campo);
+
+    auto* ventana = new Grupo("Ventana");
+    nuevoInterruptor(ventana->contenido(), 3, e.PanelControl);
+    nuevoInterruptor(ventana->contenido(), 5, e.PanelLocalizacion);
+    nuevoInterruptor(ventana->contenido(), 6, e.PanelObjetos);
 
     auto* horas = new Grupo("Fecha y hora");
     formatoHora_ = new Selector(e, 1, {Etiqueta(37), Etiqueta(38)});
@@ -59,6 +78,7 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
     auto* izquierda = new QVBoxLayout;
     izquierda->addWidget(interfaz);
     izquierda->addWidget(horas);
+    izquierda->addWidget(ventana);
     izquierda->addStretch(1);
     auto* derecha = new QVBoxLayout;
     derecha->addWidget(cielo);

@@ -1,5 +1,7 @@
 #include "sky/DibujaCielo.h"
 
+#include <cmath>
+
 #include "app/Formato.h"
 #include "astro/Planetas.h"
 #include "astro/TextosAngulo.h"
@@ -88,6 +90,13 @@ void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l) {
         HallaSolAparente(e);  // the phase needs the Sun even when it is not drawn
         HallaLuna(e);
         DibujaCuerpo(x, 11);
+    }
+    if (e.Telescopio) {
+        // The telescope's field around the centre of view: an angular
+        // radius r lies sin r from the centre in this projection.
+        l.FijaColor(ColorVB(0x4040FF));
+        l.Circulo(0, 0, std::sin(e.CampoTelescopio / 2));
+        l.FijaColor(ColorVB(0xFFFFFF));
     }
     ActualizaPanel(e);
     // The pass erased any cursor mark.

@@ -226,13 +226,15 @@ void Cielo::RefrescaCampos() {
     pulsador45_->setVisible(e_.Centrado);
 }
 
-void Cielo::Abre(const std::function<void(ContextoDialogo&)>& abre) {
+void Cielo::Abre(const std::function<void(ContextoDialogo&)>& abre, bool cargaConfiguraciones) {
     pulsador45_->hide();
     e_.Cambiado = false;
     if (abre) abre(contexto_);
     RefrescaCampos();
     Coloca();
-    if (e_.Cambiado && e_.AnimarTrasCambio) SubBajHaPulsado(5, 35);
+    // A loaded configuration may ask to be animated at once.
+    bool animar = e_.AnimarTrasCambio || (cargaConfiguraciones && e_.IncluirAnimacion);
+    if (e_.Cambiado && animar) SubBajHaPulsado(5, 35);
 }
 
 void Cielo::BotonSoltado(int k) {
@@ -240,7 +242,7 @@ void Cielo::BotonSoltado(int k) {
     e_.Sujecion = false;
     e_.Enganche = false;
     switch (k) {
-        case 1: Abre(dialogos_.CargaGuar); break;
+        case 1: Abre(dialogos_.CargaGuar, true); break;
         case 2: Abre(dialogos_.Personal); break;
         case 3: Abre(dialogos_.Locali); break;
         case 4: Abre(dialogos_.Hora); break;

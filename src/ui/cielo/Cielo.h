@@ -71,7 +71,7 @@ protected:
 private:
     void Construye();
     void Coloca();
-    void Abre(const std::function<void(ContextoDialogo&)>& abre);
+    void Abre(const std::function<void(ContextoDialogo&)>& abre, bool cargaConfiguraciones = false);
     void SubBajMovido(int i, bool enBanda);
     void SubBajPresionado(int i, int x);
     void PasoVista(int i, int signo);
