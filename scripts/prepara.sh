@@ -7,7 +7,7 @@ PAQUETES=(
   build-essential cmake pkg-config python3
   qt6-base-dev qt6-multimedia-dev qt6-tools-dev libgl-dev
   libgtest-dev libgmock-dev libbenchmark-dev liberfa-dev
-  xvfb xauth
+  xvfb xauth poppler-utils
 )
 
 faltan=()

@@ -1,4 +1,5 @@
 #include "dialogs/Animar.h"
+#include "dialogs/Ayuda.h"
 
 #include <QBoxLayout>
 #include <algorithm>
@@ -17,7 +18,7 @@ using namespace controles;
 
 namespace {
 
-constexpr int TEMA_AYUDA = 1120;
+constexpr int TEMA_AYUDA = tema::ANIMAR;
 
 // The captions of units 1..12, in the order of the unit-length table.
 const char* const NOMBRES_UNIDADES[12] = {

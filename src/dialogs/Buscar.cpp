@@ -1,4 +1,5 @@
 #include "dialogs/Buscar.h"
+#include "dialogs/Ayuda.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -29,7 +30,7 @@ using controles::BotonDialogo;
 
 namespace {
 
-constexpr int TEMA_AYUDA_BUSCAR = 6;
+constexpr int TEMA_AYUDA_BUSCAR = tema::BUSCAR;
 constexpr int FILAS_VISIBLES = 18;
 constexpr int COLUMNAS_VISIBLES = 92;
 

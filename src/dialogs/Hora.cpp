@@ -1,4 +1,5 @@
 #include "dialogs/Hora.h"
+#include "dialogs/Ayuda.h"
 
 #include <QBoxLayout>
 #include <QLineEdit>
@@ -21,7 +22,7 @@ using namespace controles;
 
 namespace {
 
-constexpr int TEMA_AYUDA = 1040;
+constexpr int TEMA_AYUDA = tema::HORA;
 
 const char* const NOMBRES_TECLAS[7] = {"Minuto", "Hora", "Dia", "Mes", "A\xF1o", "Siglo", "Milenio"};
 

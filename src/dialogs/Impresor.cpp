@@ -1,4 +1,5 @@
 #include "dialogs/Impresor.h"
+#include "dialogs/Ayuda.h"
 
 #include <QDir>
 #include <QGridLayout>
@@ -24,7 +25,7 @@ using controles::Interruptor;
 using controles::Spin;
 
 namespace {
-constexpr int TEMA_AYUDA_IMPRESOR = 7;
+constexpr int TEMA_AYUDA_IMPRESOR = tema::IMPRESOR;
 }
 
 Impresor::Impresor(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : ctx.cielo), ctx_(ctx) {

@@ -1,4 +1,5 @@
 #include "dialogs/Locali.h"
+#include "dialogs/Ayuda.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -29,7 +30,7 @@ using controles::Spin;
 
 namespace {
 
-constexpr int TEMA_AYUDA_LOCALI = 3;
+constexpr int TEMA_AYUDA_LOCALI = tema::LOCALI;
 
 // Sets up one angle field: its text, how typing is read and corrected key
 // by key, and where the value goes.

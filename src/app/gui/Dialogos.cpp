@@ -1,8 +1,13 @@
 #include "app/gui/Dialogos.h"
 
+#include "dialogs/Animar.h"
 #include "dialogs/Ayuda.h"
+#include "dialogs/Buscar.h"
 #include "dialogs/Careta.h"
 #include "dialogs/CargaGuar.h"
+#include "dialogs/Hora.h"
+#include "dialogs/Impresor.h"
+#include "dialogs/Locali.h"
 #include "dialogs/Objetos.h"
 #include "dialogs/Personal.h"
 
@@ -13,6 +18,11 @@ DialogosCielo Dialogos(Estado& e) {
     d.CargaGuar = AbreCargaGuar;
     d.Personal = AbrePersonal;
     d.Objetos = AbreObjetos;
+    d.Locali = AbreLocali;
+    d.Hora = AbreHora;
+    d.Buscar = AbreBuscar;
+    d.Impresor = AbreImpresor;
+    d.Animar = AbreAnimar;
     d.Ayuda = [&e](QWidget* padre, int tema) { MuestraAyuda(e, padre, tema); };
     return d;
 }
