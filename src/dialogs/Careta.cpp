@@ -112,13 +112,7 @@ void Careta::mouseReleaseEvent(QMouseEvent*) {
 void Careta::paintEvent(QPaintEvent*) {
     QPainter p(this);
     const QRect r = rect();
-    p.fillRect(r, GRIS_CLARO);
-    p.setPen(BLANCO);
-    p.drawLine(0, 0, r.width() - 2, 0);
-    p.drawLine(0, 0, 0, r.height() - 2);
-    p.setPen(GRIS_OSCURO);
-    p.drawLine(0, r.height() - 1, r.width() - 1, r.height() - 1);
-    p.drawLine(r.width() - 1, 0, r.width() - 1, r.height() - 1);
+    DibujaForma(p, r);
 
     const QRect cielo(MARGEN, MARGEN, r.width() - 2 * MARGEN, r.height() - 2 * MARGEN - 32);
     DibujaCieloCareta(p, cielo);

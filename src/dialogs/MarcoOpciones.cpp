@@ -125,27 +125,7 @@ void MarcoOpciones::keyPressEvent(QKeyEvent* ev) {
 
 void MarcoOpciones::paintEvent(QPaintEvent*) {
     QPainter p(this);
-    const QRect r = rect();
-    p.fillRect(r, GRIS_CLARO);
-    p.setPen(BLANCO);
-    p.drawLine(0, 0, r.width() - 2, 0);
-    p.drawLine(0, 0, 0, r.height() - 2);
-    p.setPen(GRIS_OSCURO);
-    p.drawLine(0, r.height() - 1, r.width() - 1, r.height() - 1);
-    p.drawLine(r.width() - 1, 0, r.width() - 1, r.height() - 1);
-    QFont negrita = FuenteControles();
-    negrita.setBold(true);
-    p.setFont(negrita);
-    const QFontMetrics fm(negrita);
-    const int xTitulo = (r.width() - fm.horizontalAdvance(titulo_)) / 2;
-    p.setPen(BLANCO);
-    p.drawText(xTitulo, 6 + fm.ascent(), titulo_);
-    p.setPen(AZUL);
-    p.drawText(xTitulo + 1, 7 + fm.ascent(), titulo_);
-    p.setPen(GRIS_OSCURO);
-    p.drawLine(6, ALTO_TITULO, r.width() - 8, ALTO_TITULO);
-    p.setPen(BLANCO);
-    p.drawLine(7, ALTO_TITULO + 1, r.width() - 7, ALTO_TITULO + 1);
+    DibujaForma(p, rect(), titulo_, ALTO_TITULO, 6);
 }
 
 }  // namespace vedrano

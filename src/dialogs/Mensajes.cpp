@@ -148,31 +148,11 @@ void Mensajes::mouseMoveEvent(QMouseEvent* ev) {
 void Mensajes::paintEvent(QPaintEvent*) {
     QPainter p(this);
     const QRect r = rect();
-    p.fillRect(r, GRIS_CLARO);
-    // Raised outer bevel.
+    // Raised ground and embossed title, with a dark outer edge of its own.
+    DibujaForma(p, r.adjusted(0, 0, -1, -1), titulo_, ALTO_TITULO, 5);
     p.setPen(QColor(0, 0, 0));
     p.drawLine(r.left(), r.bottom(), r.right(), r.bottom());
     p.drawLine(r.right(), r.top(), r.right(), r.bottom());
-    p.setPen(BLANCO);
-    p.drawLine(r.left(), r.top(), r.right() - 1, r.top());
-    p.drawLine(r.left(), r.top(), r.left(), r.bottom() - 1);
-    p.setPen(GRIS_OSCURO);
-    p.drawLine(r.left() + 1, r.bottom() - 1, r.right() - 1, r.bottom() - 1);
-    p.drawLine(r.right() - 1, r.top() + 1, r.right() - 1, r.bottom() - 1);
-    // Title, embossed, over an etched rule.
-    QFont negrita = FuenteControles();
-    negrita.setBold(true);
-    p.setFont(negrita);
-    const QFontMetrics fm(negrita);
-    const int xTitulo = (r.width() - fm.horizontalAdvance(titulo_)) / 2;
-    p.setPen(BLANCO);
-    p.drawText(xTitulo, 5 + fm.ascent(), titulo_);
-    p.setPen(AZUL);
-    p.drawText(xTitulo + 1, 6 + fm.ascent(), titulo_);
-    p.setPen(GRIS_OSCURO);
-    p.drawLine(6, ALTO_TITULO, r.width() - 8, ALTO_TITULO);
-    p.setPen(BLANCO);
-    p.drawLine(7, ALTO_TITULO + 1, r.width() - 7, ALTO_TITULO + 1);
 
     dibujaIcono(p, QRect(MARGEN, ALTO_TITULO + MARGEN, LADO_ICONO, LADO_ICONO));
     p.setFont(FuenteControles());

@@ -15,13 +15,7 @@ Panel::Panel(QWidget* padre, QColor fondo, QColor claro, QColor oscuro)
 void Panel::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.fillRect(rect(), fondo_);
-    int w = width() - 1, h = height() - 1;
-    p.setPen(claro_);
-    p.drawLine(0, 0, w, 0);
-    p.drawLine(0, 0, 0, h);
-    p.setPen(oscuro_);
-    p.drawLine(0, h, w, h);
-    p.drawLine(w, 0, w, h);
+    controles::DibujaBisel(p, rect(), claro_, oscuro_);
 }
 
 CampoInfo::CampoInfo(QWidget* padre) : QWidget(padre) {

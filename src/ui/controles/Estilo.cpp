@@ -83,4 +83,33 @@ void DibujaCara(QPainter& p, int ancho, bool pulsada) {
     CopiaCelda(p, {ancho - 2, 0}, QRect(129, fila, 2, alto));
 }
 
+void DibujaBisel(QPainter& p, const QRect& area, const QColor& claro, const QColor& oscuro) {
+    const int x0 = area.left(), y0 = area.top(), x1 = area.right(), y1 = area.bottom();
+    p.setPen(claro);
+    p.drawLine(x0, y0, x1 - 1, y0);
+    p.drawLine(x0, y0, x0, y1 - 1);
+    p.setPen(oscuro);
+    p.drawLine(x0, y1, x1, y1);
+    p.drawLine(x1, y0, x1, y1);
+}
+
+void DibujaForma(QPainter& p, const QRect& area, const QString& titulo, int altoTitulo, int arribaTitulo) {
+    p.fillRect(area, GRIS_CLARO);
+    DibujaBisel(p, area);
+    if (titulo.isEmpty()) return;
+    QFont negrita = FuenteControles();
+    negrita.setBold(true);
+    p.setFont(negrita);
+    const QFontMetrics fm(negrita);
+    const int x = area.left() + (area.width() - fm.horizontalAdvance(titulo)) / 2;
+    p.setPen(BLANCO);
+    p.drawText(x, area.top() + arribaTitulo + fm.ascent(), titulo);
+    p.setPen(AZUL);
+    p.drawText(x + 1, area.top() + arribaTitulo + 1 + fm.ascent(), titulo);
+    p.setPen(GRIS_OSCURO);
+    p.drawLine(area.left() + 6, area.top() + altoTitulo, area.right() - 7, area.top() + altoTitulo);
+    p.setPen(BLANCO);
+    p.drawLine(area.left() + 7, area.top() + altoTitulo + 1, area.right() - 6, area.top() + altoTitulo + 1);
+}
+
 }  // namespace vedrano::controles

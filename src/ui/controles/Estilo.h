@@ -70,4 +70,13 @@ void DibujaFlechas(QPainter& p, QPoint origen, int encendida);
 // the two-column right edge always ends it.
 void DibujaCara(QPainter& p, int ancho, bool pulsada);
 
+// A raised bevel round `area`: `claro` along the top and left edges,
+// `oscuro` along the bottom and right.
+void DibujaBisel(QPainter& p, const QRect& area, const QColor& claro = BLANCO, const QColor& oscuro = GRIS_OSCURO);
+
+// A form's ground: light grey with its raised bevel and, when `titulo` is
+// not empty, the title embossed and centred over an etched rule at
+// `altoTitulo` (the title's top at `arribaTitulo`).
+void DibujaForma(QPainter& p, const QRect& area, const QString& titulo = {}, int altoTitulo = 0, int arribaTitulo = 5);
+
 }  // namespace vedrano::controles
