@@ -7,7 +7,7 @@ bash "$raiz/scripts/compila.sh"
 if [ -x "$raiz/build/vedrano" ]; then
   exec "$raiz/build/vedrano" "$@"
 fi
-# Until the window lands, the command-line tool is the program.
+# Without the window program (Qt widgets missing), the command-line tool.
 if [ $# -eq 0 ]; then
   "$raiz/build/vedrano-cli" --help
   echo
