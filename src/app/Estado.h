@@ -45,7 +45,8 @@ struct DerivadosRotacion {
 // which gate the layers of the sky picture.
 struct Interruptores {
     int16_t Sol = 1, Luna = 1;
-    std::array<int16_t, 9> Plane{1, 1, 1, 1, 1, 1, 1, 1, 1};  // Mercury .. Pluto
+    // Mercury .. Pluto; the Earth's place (index 2) is kept but never drawn.
+    std::array<int16_t, 9> Plane{1, 1, 0, 1, 1, 1, 1, 1, 1};
     int16_t Galax = 0, NebPl = 0, NebDi = 0, CumAb = 0, CumGl = 0;
     int16_t Quasa = 0, Pulsa = 0, Aguje = 0;
     int16_t ARDEC30 = 0, ARDEC15 = 0;

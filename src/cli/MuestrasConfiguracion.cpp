@@ -86,6 +86,8 @@ public:
         e.NivelEstrellas = 5;
         e.NivelConstelaciones = 4;  // every figure
         e.IdConstelaciones = 2;     // Spanish names
+        e.PanelCursor = true;       // the coordinates under the mouse
+        e.Marcar = true;
     }
 
     void Lugar(int indice) {
