@@ -9,6 +9,7 @@
 #include "EntornoQt.h"
 #include "Falsos.h"
 #include "app/Constantes.h"
+#include "app/Formato.h"
 #include "app/Texto1252.h"
 #include "catalogue/CargaCatalogos.h"
 #include "dialogs/Mensajes.h"
@@ -111,9 +112,20 @@ TEST(Cielo, TimeArrowsStepAndAreRefusedInRealTime) {
     v.e.PasoCantidad = 1;
     v.e.PasoDias = 1;
     double antes = v.e.FechaJuliana;
-    v.Pulsa(4, 12, 2);  // left: backward
+    // The date fields follow each step, though the sky is redrawn only at
+    // the end: read them just after the first step.
+    std::string trasPrimerPaso;
+    int siestas = 0;
+    v.falsos.reloj.alDormir = [&](int) {
+        if (++siestas == 2) trasPrimerPaso = v.e.Panel.DiaJuliano;
+        if (siestas >= 4) v.e.Sujecion = false;
+    };
+    v.e.CursorActual = 21;
+    v.cielo->SubBajHaPulsado(4, 12);  // left: backward
+    v.falsos.reloj.alDormir = nullptr;
     EXPECT_DOUBLE_EQ(v.e.FechaJuliana, antes - 2);
     EXPECT_LT(v.e.PasoDias, 0);
+    EXPECT_EQ(trasPrimerPaso, "D. J. = " + Formato(antes - 1, "#######0.000000"));
 
     v.e.TiempoReal = true;
     Contestador c;

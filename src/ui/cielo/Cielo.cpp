@@ -7,6 +7,7 @@
 #include "app/Texto1252.h"
 #include "astro/TextosAngulo.h"
 #include "config/LeeConfiguracion.h"
+#include "sky/DibujaCielo.h"
 #include "ui/cielo/Paneles.h"
 #include "ui/cielo/PanelLeyenda.h"
 #include "ui/cielo/VistaCielo.h"
@@ -207,6 +208,9 @@ void Cielo::DibujaCielo() {
 }
 
 void Cielo::RefrescaCampos() {
+    // The texts follow the state even between passes (the time arrows step
+    // the date without redrawing the sky).
+    ActualizaPanel(e_);
     const PanelInformacion& p = e_.Panel;
     fecJul_->FijaTexto(Q(p.DiaJuliano));
     fecUni_->FijaTexto(Q(p.FechaUniversal));
