@@ -21,7 +21,7 @@ namespace vedrano {
 namespace {
 
 // Fixed sizes of the panels around the sky picture.
-constexpr int ANCHO_IZQUIERDA = 150, ALTO_INFERIOR = 84, ANCHO_LEYENDA = 132;
+constexpr int ANCHO_IZQUIERDA = 150, ALTO_INFERIOR = 106, ANCHO_LEYENDA = 132;
 
 struct DatosBoton {
     int izquierda, arriba;
@@ -167,7 +167,7 @@ void Cielo::Coloca() {
     panelObjetos_->setGeometry(W - ANCHO_LEYENDA, 0, ANCHO_LEYENDA, alto);
     leyenda_->setGeometry(3, 3, ANCHO_LEYENDA - 6, std::min(alto - 6, 27 * PanelLeyenda::ALTO_LINEA + 8));
 
-    const int anchoCursor = 190;
+    const int anchoCursor = 176;
     panelLocalizacion_->setVisible(localizacion);
     panelLocalizacion_->setGeometry(izquierda, H - ALTO_INFERIOR, W - izquierda - (cursor ? anchoCursor : 0),
                                     ALTO_INFERIOR);
@@ -179,19 +179,20 @@ void Cielo::Coloca() {
     };
     fila(5, loca_, longi_, lati_);
     fila(30, direc_, eleva_, zoom_);
-    const int anchoHora = 62;
-    fecUni_->setGeometry(4, 55, columna - anchoHora - 3, 22);
-    horUni_->setGeometry(4 + columna - anchoHora - 1, 55, anchoHora - 1, 22);
-    fecLoc_->setGeometry(4 + columna, 55, columna - anchoHora - 3, 22);
-    horLoc_->setGeometry(4 + 2 * columna - anchoHora - 1, 55, anchoHora - 1, 22);
-    fecJul_->setGeometry(4 + 2 * columna, 55, columna - 2, 22);
+    // Dates with their times in two halves, the Julian day below.
+    const int mitad = (panelLocalizacion_->width() - 8) / 2, anchoHora = 64;
+    fecUni_->setGeometry(4, 55, mitad - anchoHora - 3, 22);
+    horUni_->setGeometry(4 + mitad - anchoHora - 1, 55, anchoHora - 1, 22);
+    fecLoc_->setGeometry(4 + mitad, 55, mitad - anchoHora - 3, 22);
+    horLoc_->setGeometry(4 + 2 * mitad - anchoHora - 1, 55, anchoHora - 1, 22);
+    fecJul_->setGeometry(4, 80, mitad - 2, 22);
 
     panelCursor_->setVisible(cursor);
     panelCursor_->setGeometry(W - anchoCursor, H - ALTO_INFERIOR, anchoCursor, ALTO_INFERIOR);
-    int y = 4;
+    int y = 5;
     for (CampoInfo* f : {aRecta_, dec_, altitud_, azimut_}) {
-        f->setGeometry(4, y, anchoCursor - 8, 18);
-        y += 19;
+        f->setGeometry(4, y, anchoCursor - 8, 22);
+        y += 25;
     }
 }
 
