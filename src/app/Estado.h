@@ -143,6 +143,7 @@ struct Estado {
     int16_t ContadorTiempoReal = 0;
     int16_t FilaPulsador = 0;
     int16_t RespuestaMensaje = 0;  // 0 = Cancel
+    int16_t BotonesMensaje = 1, IconoMensaje = 0, TemaMensaje = 0;  // of the last message shown
 
     // Folders.
     std::string DirPrograma, DirArchivo, DirDatos;

@@ -32,6 +32,9 @@ void FijaAyudaMensajes(std::function<void(int)> ayuda) { Ayuda() = std::move(ayu
 
 int16_t MuestraMensaje(Estado& e, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
                        int16_t botones, int16_t icono, int16_t ayuda) {
+    e.BotonesMensaje = botones;
+    e.IconoMensaje = icono;
+    e.TemaMensaje = ayuda;
     Mensajes m(e, padre, textoCp1252, tituloCp1252, botones, icono, ayuda);
     m.exec();
     return e.RespuestaMensaje;

@@ -89,6 +89,9 @@ TEST_F(Mensaje, AyudaConSuTemaYAdaptador) {
     });
     MuestraMensaje(e, nullptr, texto, "VEDRANO 3.2", 1, 3, 1020);
     EXPECT_EQ(tema, 1020);
+    EXPECT_EQ(e.BotonesMensaje, 1);  // the state keeps what the last message asked
+    EXPECT_EQ(e.IconoMensaje, 3);
+    EXPECT_EQ(e.TemaMensaje, 1020);
     FijaAyudaMensajes(nullptr);
 
     // The configuration side hears the answer through the adapter.
