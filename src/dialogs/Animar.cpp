@@ -121,10 +121,6 @@ void Animar::done(int r) {
     MarcoOpciones::done(r);
 }
 
-void AbreAnimar(ContextoDialogo& ctx) {
-    ctx.e.Cambiado = false;
-    Animar d(ctx);
-    MuestraCentrado(d, ctx.cielo);
-}
+void AbreAnimar(ContextoDialogo& ctx) { AbreForma<Animar>(ctx); }
 
 }  // namespace vedrano

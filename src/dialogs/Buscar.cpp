@@ -262,10 +262,6 @@ bool Buscar::eventFilter(QObject* objeto, QEvent* ev) {
     return QDialog::eventFilter(objeto, ev);
 }
 
-void AbreBuscar(ContextoDialogo& ctx) {
-    ctx.e.Cambiado = false;
-    Buscar forma(ctx);
-    MuestraCentrado(forma, ctx.cielo);
-}
+void AbreBuscar(ContextoDialogo& ctx) { AbreForma<Buscar>(ctx); }
 
 }  // namespace vedrano

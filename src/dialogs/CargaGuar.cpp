@@ -162,10 +162,6 @@ void CargaGuar::borra() {
     llenaLista(std::string());
 }
 
-void AbreCargaGuar(ContextoDialogo& ctx) {
-    ctx.e.Cambiado = false;
-    CargaGuar d(ctx);
-    MuestraCentrado(d, ctx.cielo);
-}
+void AbreCargaGuar(ContextoDialogo& ctx) { AbreForma<CargaGuar>(ctx); }
 
 }  // namespace vedrano

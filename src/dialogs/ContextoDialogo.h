@@ -34,4 +34,13 @@ inline int MuestraCentrado(QDialog& d, QWidget* cielo) {
     return d.exec();
 }
 
+// The usual opening of a form: nothing changed yet, then the form shown
+// modally; the form itself applies what it changes.
+template <class Forma>
+void AbreForma(ContextoDialogo& ctx) {
+    ctx.e.Cambiado = false;
+    Forma forma(ctx);
+    MuestraCentrado(forma, ctx.cielo);
+}
+
 }  // namespace vedrano

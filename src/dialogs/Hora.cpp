@@ -267,10 +267,6 @@ void Hora::done(int r) {
     MarcoOpciones::done(r);
 }
 
-void AbreHora(ContextoDialogo& ctx) {
-    ctx.e.Cambiado = false;
-    Hora d(ctx);
-    MuestraCentrado(d, ctx.cielo);
-}
+void AbreHora(ContextoDialogo& ctx) { AbreForma<Hora>(ctx); }
 
 }  // namespace vedrano

@@ -110,9 +110,7 @@ void Impresor::imprime() {
 void Impresor::paintEvent(QPaintEvent*) { PintaFondoForma(this); }
 
 void AbreImpresor(ContextoDialogo& ctx) {
-    ctx.e.Cambiado = false;
-    Impresor forma(ctx);
-    MuestraCentrado(forma, ctx.cielo);
+    AbreForma<Impresor>(ctx);
     // The sizes and switches are configuration settings.
     ctx.e.Cambiado = true;
 }

@@ -229,10 +229,6 @@ void Locali::closeEvent(QCloseEvent* ev) {
     QDialog::closeEvent(ev);
 }
 
-void AbreLocali(ContextoDialogo& ctx) {
-    ctx.e.Cambiado = false;
-    Locali forma(ctx);
-    MuestraCentrado(forma, ctx.cielo);
-}
+void AbreLocali(ContextoDialogo& ctx) { AbreForma<Locali>(ctx); }
 
 }  // namespace vedrano
