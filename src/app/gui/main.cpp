@@ -1,5 +1,7 @@
 // VEDRANO: the start-up sequence of the desktop program.
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QThread>
 
 #include "app/Arranque.h"
 #include "app/Texto1252.h"
@@ -43,6 +45,13 @@ int main(int argc, char** argv) {
     cielo.activateWindow();
     cielo.raise();
     CierraCareta(careta, &cielo);
+    // The greeting comes once the cover has gone (it stays a moment at least).
+    QElapsedTimer espera;
+    espera.start();
+    while (careta && espera.elapsed() < 4000) {
+        app.processEvents(QEventLoop::AllEvents, 20);
+        QThread::msleep(10);
+    }
 
     MuestraMensaje(e, &cielo,
                    A1252("Si   desea   consultar   una   descripción   general   de   este programa  para  conocer  "
