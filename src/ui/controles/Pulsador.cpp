@@ -29,10 +29,20 @@ void Pulsador::dibuja(bool pulsado, bool conSonido) {
 void Pulsador::pinta(QPainter& p) {
     DibujaCara(p, width(), pulsado_);
     const QString texto = etiqueta();
-    const int x = (width() - QFontMetrics(FuenteControles()).horizontalAdvance(texto)) / 2 - 1;
+    const int ancho = QFontMetrics(FuenteControles()).horizontalAdvance(texto);
     // A pressed face moves its label with it.
     const int d = pulsado_ ? 1 : 0;
-    ImprimeEtiqueta(p, x + d, 5 + d, texto);
+    const int sitio = width() - 8;
+    if (ancho <= sitio) {
+        ImprimeEtiqueta(p, (width() - ancho) / 2 - 1 + d, 5 + d, texto);
+        return;
+    }
+    // A label wider than its face is narrowed to fit rather than cut.
+    p.save();
+    p.translate(4 + d, 0);
+    p.scale(static_cast<double>(sitio) / ancho, 1.0);
+    ImprimeEtiqueta(p, 0, 5 + d, texto);
+    p.restore();
 }
 
 void Pulsador::pulsa() {
