@@ -147,10 +147,15 @@ TEST(Dibujo, DaylightFollowsTheSunsAltitude) {
         double seno = std::sin(e.Latitud) * std::sin(s.Declinacion) +
                       std::cos(e.Latitud) * std::cos(s.Declinacion) * std::cos(H);
         int azul = qBlue(l.Imagen().pixel(50, 40));
-        if (seno > 0.01) EXPECT_EQ(azul, 192) << hora;
-        if (seno < -0.31) EXPECT_EQ(azul, 0) << hora;
-        if (std::fabs(seno + 0.15) < 0.14)
+        if (seno > 0.01) {
+            EXPECT_EQ(azul, 192) << hora;
+        }
+        if (seno < -0.31) {
+            EXPECT_EQ(azul, 0) << hora;
+        }
+        if (std::fabs(seno + 0.15) < 0.14) {
             EXPECT_NEAR(azul, std::lround(seno * 640 + 192), 2) << hora;
+        }
         (void)c;
     }
 }

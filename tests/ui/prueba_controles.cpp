@@ -190,7 +190,9 @@ TEST_F(Controles, CaraDelPulsadorEstiradaOCortada) {
         EXPECT_EQ(columna(im, ancho - 2, 0), columna(mapa, 129, 46)) << ancho;
         EXPECT_EQ(columna(im, ancho - 1, 0), columna(mapa, 130, 46)) << ancho;
         EXPECT_EQ(columna(im, 0, 0), columna(mapa, 0, 46)) << ancho;
-        if (ancho > 131) EXPECT_EQ(columna(im, ancho - 3, 0), columna(mapa, 127, 46));
+        if (ancho > 131) {
+            EXPECT_EQ(columna(im, ancho - 3, 0), columna(mapa, 127, 46));
+        }
     }
 }
 
