@@ -5,6 +5,7 @@
 #pragma once
 #include <cmath>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "app/ErrorEjecucion.h"
@@ -66,6 +67,26 @@ inline float ASingle(double x) {
     if (std::isinf(f) && !std::isinf(x)) throw ErrorEjecucion(ErrDesbordamiento);
     return f;
 }
+
+// The longest beginning of `texto` that reads as a number: a sign, digits
+// with at most one point, and an exponent (E or D) only when digits follow
+// it; blanks inside are skipped when asked. `Texto()` of the result is
+// ready for std::from_chars ("-12.5e3"), `consumido` counts the characters
+// read. The text is gathered on the stack: dates are read thousands of
+// times a second; one longer than its room is marked `largo`.
+struct NumeroEscrito {
+    char texto[400];
+    std::size_t n = 0;
+    std::size_t consumido = 0;
+    bool digitos = false;
+    bool largo = false;
+    void Pon(char c) {
+        if (n < sizeof texto) texto[n++] = c;
+        else largo = true;
+    }
+    std::string_view Texto() const { return {texto, n}; }
+};
+NumeroEscrito EscaneaNumero(std::string_view texto, bool saltaBlancos);
 
 // Val(text): leading blanks skipped, reading stops at the first character
 // that cannot continue a number; an empty or non-numeric text is 0.

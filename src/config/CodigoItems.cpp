@@ -39,35 +39,10 @@ bool IgualSinCaja(std::string_view a, std::string_view b) {
 // item is a type mismatch, so that "12abc" is never read as 12.
 double Numero(const ItemLeido& item) {
     if (item.entrecomillado) throw ErrorEjecucion(ErrTipo);
-    std::string_view t = item.texto;
-    std::string limpio;
-    std::size_t i = 0;
-    if (i < t.size() && (t[i] == '+' || t[i] == '-')) {
-        if (t[i] == '-') limpio += '-';
-        ++i;
-    }
-    bool digitos = false, punto = false;
-    for (; i < t.size(); ++i) {
-        char c = t[i];
-        if (c >= '0' && c <= '9') {
-            digitos = true;
-        } else if (c == '.' && !punto) {
-            punto = true;
-        } else {
-            break;
-        }
-        limpio += c;
-    }
-    if (!digitos) throw ErrorEjecucion(ErrTipo);
-    if (i < t.size() && (t[i] == 'e' || t[i] == 'E' || t[i] == 'd' || t[i] == 'D')) {
-        limpio += 'e';
-        ++i;
-        if (i < t.size() && (t[i] == '+' || t[i] == '-')) limpio += t[i++];
-        std::size_t inicio = i;
-        while (i < t.size() && t[i] >= '0' && t[i] <= '9') limpio += t[i++];
-        if (i == inicio) throw ErrorEjecucion(ErrTipo);
-    }
-    if (i != t.size()) throw ErrorEjecucion(ErrTipo);
+    const NumeroEscrito n = EscaneaNumero(item.texto, false);
+    if (!n.digitos || n.consumido != item.texto.size()) throw ErrorEjecucion(ErrTipo);
+    if (n.largo) throw ErrorEjecucion(ErrDesbordamiento);
+    const std::string limpio(n.Texto());
     double v = 0;
     auto [fin, ec] = std::from_chars(limpio.data(), limpio.data() + limpio.size(), v);
     if (ec == std::errc::result_out_of_range) {
