@@ -32,7 +32,7 @@ public:
 
 int Uso() {
     std::cerr << "Uso: vedrano-cli dibuja [--config ARCHIVO.ls1] [--datos DIR] [--ancho W] [--alto H]"
-                 " --salida cielo.png\n";
+                 " [--todos-los-rotulos] --salida cielo.png\n";
     return 2;
 }
 
@@ -41,6 +41,7 @@ int Uso() {
 int ComandoDibuja(int argc, char** argv) {
     std::string config, datos, salida;
     int ancho = 1024, alto = 768;
+    OpcionesDibujo opciones;
     for (int i = 2; i < argc; ++i) {
         auto valor = [&](std::string& destino) {
             if (i + 1 >= argc) return false;
@@ -51,6 +52,10 @@ int ComandoDibuja(int argc, char** argv) {
         if (std::strcmp(argv[i], "--config") == 0 && valor(config)) continue;
         if (std::strcmp(argv[i], "--datos") == 0 && valor(datos)) continue;
         if (std::strcmp(argv[i], "--salida") == 0 && valor(salida)) continue;
+        if (std::strcmp(argv[i], "--todos-los-rotulos") == 0) {
+            opciones.TodosLosRotulos = true;
+            continue;
+        }
         if ((std::strcmp(argv[i], "--ancho") == 0 || std::strcmp(argv[i], "--alto") == 0) && valor(numero)) {
             int v = std::atoi(numero.c_str());
             if (v < 16 || v > 16384) {
@@ -93,7 +98,7 @@ int ComandoDibuja(int argc, char** argv) {
     }
 
     Lienzo lienzo(ancho, alto);
-    ActualizaCielo(e, catalogos, lienzo);
+    ActualizaCielo(e, catalogos, lienzo, opciones);
     if (!lienzo.Imagen().save(QString::fromStdString(salida))) {
         std::cerr << "vedrano-cli dibuja: no se puede escribir la imagen en " << salida << "\n";
         return 1;

@@ -50,14 +50,17 @@ void AjustaEscalaLienzo(Estado& e, Lienzo& l) {
     l.Escala(e.EscalaIzquierda, e.EscalaSuperior, e.EscalaAncho, e.EscalaAlto);
 }
 
-void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l) {
-    Contexto x{e, c, l};
+namespace {
+
+// The layers in their fixed order, after the background.
+void DibujaCapas(Contexto& x) {
+    Estado& e = x.e;
+    const Catalogos& c = x.c;
+    Lienzo& l = x.l;
     const Interruptores& s = e.Capas;
-    l.FijaFondo(QColor(0, 0, 0));
     l.FijaColor(ColorVB(0xFFFFFF));
     l.FijaAnchoTrazo(1);
     l.FijaEstiloTrazo(0);
-    if (Encendido(s.LuzDi)) DibujaLuzDiurna(x);
     if (Encendido(s.ARDEC15)) DibujaRejilla(x, 15);
     if (Encendido(s.ARDEC30)) DibujaRejilla(x, 30);
     if (Encendido(s.LimCo)) DibujaLimites(x);
@@ -98,17 +101,44 @@ void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l) {
         l.Circulo(0, 0, std::sin(e.CampoTelescopio / 2));
         l.FijaColor(ColorVB(0xFFFFFF));
     }
+}
+
+}  // namespace
+
+void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l, const OpcionesDibujo& o) {
+    Contexto x{e, c, l, PreparaVistas(e), o};
+    // The daylight colour is the background of the one clear of the pass.
+    QColor fondo = Encendido(e.Capas.LuzDi) ? ColorLuzDiurna(e) : QColor(0, 0, 0);
+    if (o.TodosLosRotulos) {
+        l.Rotulos().Todos();
+    } else {
+        // A first run measures the labels only, so that the drawing run
+        // prints those that do not hide a brighter or larger object's.
+        l.Rotulos().EmpiezaMedida(l.Ancho(), l.Alto());
+        l.FijaSoloMedida(true);
+        try {
+            DibujaCapas(x);
+        } catch (...) {
+            l.FijaSoloMedida(false);
+            throw;
+        }
+        l.FijaSoloMedida(false);
+        l.Rotulos().Resuelve();
+    }
+    l.FijaFondo(fondo);
+    DibujaCapas(x);
+    l.Vacia();
     ActualizaPanel(e);
     // The pass erased any cursor mark.
     e.MarcaVisible = false;
 }
 
-void ActualizaCielo(Estado& e, const Catalogos& c, Lienzo& l) {
+void ActualizaCielo(Estado& e, const Catalogos& c, Lienzo& l, const OpcionesDibujo& o) {
     ActualizaTiempo(e, c.TablaPlanetas);
     if (e.ActualizarSistemaSolar) CalculaSistemaSolar(e, c);
     AjustaEscalaLienzo(e, l);
     GiraDireccion(e);
-    DibujaCielo(e, c, l);
+    DibujaCielo(e, c, l, o);
 }
 
 }  // namespace vedrano

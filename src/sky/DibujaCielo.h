@@ -5,6 +5,7 @@
 #include "app/Estado.h"
 #include "catalogue/Catalogos.h"
 #include "sky/Lienzo.h"
+#include "sky/OpcionesDibujo.h"
 
 namespace vedrano {
 
@@ -12,12 +13,14 @@ namespace vedrano {
 // daylight, 15 and 30 degree grids, boundaries, horizon, ecliptic,
 // constellations, stars, Messier, galaxies, planetary and diffuse nebulae,
 // open and globular clusters, quasars, pulsars, black holes, Milky Way,
-// planets 1..9, the Sun, the Moon; then the panel texts.
-void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l);
+// planets 1..9, the Sun, the Moon; then the panel texts. Labels that would
+// overlap a label of a brighter or larger object are left out unless the
+// options ask for every label.
+void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l, const OpcionesDibujo& o = {});
 
 // Time refresh, the solar system, the scale for the picture's size, the
 // turned azimuth, and the pass.
-void ActualizaCielo(Estado& e, const Catalogos& c, Lienzo& l);
+void ActualizaCielo(Estado& e, const Catalogos& c, Lienzo& l, const OpcionesDibujo& o = {});
 
 // Sets the state's scale from the zoom for the picture's size and hands it
 // to the canvas.

@@ -1,6 +1,7 @@
 #include "sky/Lienzo.h"
 
 #include <QPainterPath>
+#include <QStaticText>
 #include <cmath>
 
 #include "app/Texto1252.h"
@@ -12,6 +13,28 @@ QColor ColorVB(unsigned long bgr) {
                   static_cast<int>((bgr >> 16) & 0xFF));
 }
 
+namespace {
+
+// Symbols larger than this radius in pixels are drawn directly, not kept
+// as ready-made images.
+constexpr double RADIO_FIGURA_MAXIMO = 40;
+// Ready-made symbols are kept for a quarter-pixel grid of positions, labels
+// for an eighth of a pixel across (glyphs are placed at fractions of a
+// pixel horizontally, on whole pixels vertically).
+constexpr double FASES = 4;
+constexpr double FASES_TEXTO = 8;
+// Beyond this many ready-made images (zooming makes new sizes) they are
+// made afresh.
+constexpr std::size_t IMAGENES_MAXIMAS = 4096;
+
+QImage ImagenVacia(int ancho, int alto) {
+    QImage i(ancho, alto, QImage::Format_ARGB32_Premultiplied);
+    i.fill(Qt::transparent);
+    return i;
+}
+
+}  // namespace
+
 Lienzo::Lienzo(int ancho, int alto) {
     QFont f("DejaVu Sans");
     f.setPixelSize(11);
@@ -19,14 +42,24 @@ Lienzo::Lienzo(int ancho, int alto) {
     FijaFuente(f);
 }
 
+const QImage& Lienzo::Imagen() const {
+    Vacia();
+    return imagen_;
+}
+
 void Lienzo::Redimensiona(int ancho, int alto) {
+    pendientes_.clear();
     pintor_.reset();
     imagen_ = QImage(ancho, alto, QImage::Format_RGB32);
-    imagen_.fill(fondo_);
     pintor_ = std::make_unique<QPainter>(&imagen_);
     pintor_->setRenderHint(QPainter::Antialiasing, true);
     pintor_->setRenderHint(QPainter::TextAntialiasing, true);
     pintor_->setFont(fuente_);
+    clavePuesta_ = {0, 0, -1};
+    // The painter draws into this buffer; stamps are written into it too.
+    pixeles_ = imagen_.bits();
+    linea_ = imagen_.bytesPerLine();
+    Cls();
     Escala(izquierda_, superior_, ancho_, alto_);
 }
 
@@ -39,14 +72,15 @@ void Lienzo::Escala(float izquierda, float superior, float ancho, float alto) {
     sy_ = imagen_.height() / static_cast<double>(alto_);
 }
 
-QPointF Lienzo::APixel(double x, double y) const {
-    return {(x - izquierda_) * sx_, (y - superior_) * sy_};
-}
-
 double Lienzo::PixelesPorUnidad() const { return std::fabs(sx_); }
 
 void Lienzo::Cls() {
-    imagen_.fill(fondo_);
+    pendientes_.clear();  // drawn before the clear, they would be erased
+    const QRgb fondo = 0xFF000000u | fondo_.rgb();
+    for (int y = 0; y < imagen_.height(); ++y) {
+        auto* fila = reinterpret_cast<QRgb*>(pixeles_ + y * linea_);
+        std::fill(fila, fila + imagen_.width(), fondo);
+    }
     actualX_ = actualY_ = 0;
 }
 
@@ -55,23 +89,69 @@ void Lienzo::FijaFondo(const QColor& c) {
     Cls();
 }
 
-QPen Lienzo::Pluma() const {
-    QPen p(tinta_);
-    p.setWidthF(anchoTrazo_);
-    p.setCapStyle(Qt::RoundCap);
-    if (estilo_ == 2) p.setStyle(Qt::DotLine);
-    if (estilo_ == 1) p.setStyle(Qt::DashLine);
-    return p;
+void Lienzo::PonPluma(const ClavePluma& k) const {
+    if (k == clavePuesta_) return;
+    uint64_t h = uint64_t(k.color) | uint64_t(k.ancho & 0xFFFF) << 32 | uint64_t(k.estilo & 0xFF) << 48;
+    auto it = plumas_.find(h);
+    if (it == plumas_.end()) {
+        QPen p{QColor::fromRgba(k.color)};
+        p.setWidthF(k.ancho);
+        p.setCapStyle(Qt::RoundCap);
+        if (k.estilo == 2) p.setStyle(Qt::DotLine);
+        if (k.estilo == 1) p.setStyle(Qt::DashLine);
+        it = plumas_.emplace(h, p).first;
+    }
+    pintor_->setPen(it->second);
+    clavePuesta_ = k;
 }
 
-const QPixmap& Lienzo::SpritePunto(int ancho, QRgb color) {
-    auto clave = std::make_pair(ancho, color);
-    auto it = sprites_.find(clave);
-    if (it != sprites_.end()) return it->second;
-    // A dot pre-rendered once: drawing thousands of stars is then a blit each.
+void Lienzo::Vacia() const {
+    if (pendientes_.empty()) return;
+    PonPluma(clavePendiente_);
+    pintor_->drawLines(pendientes_.data(), static_cast<int>(pendientes_.size()));
+    pendientes_.clear();
+}
+
+bool Lienzo::FueraDeImagen(const QPointF& a, const QPointF& b, double m) const {
+    const double w = imagen_.width() + m, h = imagen_.height() + m;
+    return (a.x() < -m && b.x() < -m) || (a.x() > w && b.x() > w) || (a.y() < -m && b.y() < -m) ||
+           (a.y() > h && b.y() > h);
+}
+
+void Lienzo::Estampa1(const QImage& s, int x0, int y0) {
+    // Source-over of a premultiplied image, with the rounding of Qt's own
+    // blending so that a stamp equals the same figure drawn in place.
+    const int w = s.width(), h = s.height();
+    const int xa = std::max(0, x0), xb = std::min(imagen_.width(), x0 + w);
+    const int ya = std::max(0, y0), yb = std::min(imagen_.height(), y0 + h);
+    for (int y = ya; y < yb; ++y) {
+        const auto* f = reinterpret_cast<const QRgb*>(s.constScanLine(y - y0)) - x0;
+        auto* d = reinterpret_cast<QRgb*>(pixeles_ + y * linea_);
+        for (int x = xa; x < xb; ++x) {
+            const QRgb p = f[x];
+            const uint a = qAlpha(p);
+            if (a == 0) continue;
+            if (a == 255) {
+                d[x] = p;
+                continue;
+            }
+            const uint ia = 255 - a;
+            uint t = (d[x] & 0xFF00FF) * ia;
+            t = ((t + ((t >> 8) & 0xFF00FF) + 0x800080) >> 8) & 0xFF00FF;
+            uint u = ((d[x] >> 8) & 0xFF00FF) * ia;
+            u = (u + ((u >> 8) & 0xFF00FF) + 0x800080) & 0xFF00FF00;
+            d[x] = 0xFF000000u | ((p + (t | u)) & 0xFFFFFF);
+        }
+    }
+}
+
+const QImage& Lienzo::SpritePunto(int ancho, QRgb color) {
+    uint64_t clave = uint64_t(ancho) << 32 | (color & 0xFFFFFF);
+    auto it = puntos_.find(clave);
+    if (it != puntos_.end()) return it->second;
+    // A dot pre-rendered once: drawing thousands of stars is then a stamp each.
     int lado = ancho + 2;
-    QPixmap p(lado, lado);
-    p.fill(Qt::transparent);
+    QImage p = ImagenVacia(lado, lado);
     QPainter q(&p);
     q.setRenderHint(QPainter::Antialiasing, ancho > 1);
     q.setPen(Qt::NoPen);
@@ -80,17 +160,19 @@ const QPixmap& Lienzo::SpritePunto(int ancho, QRgb color) {
         q.fillRect(1, 1, 1, 1, QColor(color));
     else
         q.drawEllipse(QRectF(1, 1, ancho, ancho));
-    return sprites_.emplace(clave, std::move(p)).first->second;
+    q.end();
+    return puntos_.emplace(clave, std::move(p)).first->second;
 }
 
 void Lienzo::Punto(double x, double y) {
     actualX_ = x;
     actualY_ = y;
-    if (estilo_ == 5) return;
+    if (estilo_ == 5 || soloMedida_) return;
+    Vacia();
     QPointF c = APixel(x, y);
-    const QPixmap& s = SpritePunto(anchoTrazo_, tinta_.rgb());
-    double medio = anchoTrazo_ / 2.0 + 1;
-    pintor_->drawPixmap(QPointF(std::floor(c.x() - medio + 0.5), std::floor(c.y() - medio + 0.5)), s);
+    const double medio = anchoTrazo_ / 2.0 + 1;
+    Estampa1(SpritePunto(anchoTrazo_, tinta_.rgb()), static_cast<int>(std::floor(c.x() - medio + 0.5)),
+             static_cast<int>(std::floor(c.y() - medio + 0.5)));
 }
 
 void Lienzo::LineaA(double x, double y) { Linea(actualX_, actualY_, x, y); }
@@ -98,18 +180,87 @@ void Lienzo::LineaA(double x, double y) { Linea(actualX_, actualY_, x, y); }
 void Lienzo::Linea(double x1, double y1, double x2, double y2) {
     actualX_ = x2;
     actualY_ = y2;
-    if (estilo_ == 5) return;
-    pintor_->setPen(Pluma());
-    pintor_->drawLine(APixel(x1, y1), APixel(x2, y2));
+    if (estilo_ == 5 || soloMedida_) return;
+    QPointF a = APixel(x1, y1), b = APixel(x2, y2);
+    if (FueraDeImagen(a, b, anchoTrazo_ + 2)) return;
+    ClavePluma k = Clave();
+    if (!(k == clavePendiente_)) {
+        Vacia();
+        clavePendiente_ = k;
+    }
+    pendientes_.emplace_back(a, b);
+}
+
+void Lienzo::DibujaFigura(QPainter& p, const QPointF& c, double rx, double ry, double inicio, double fin,
+                          bool arco, bool caja) const {
+    QRectF marco(c.x() - rx, c.y() - ry, 2 * rx, 2 * ry);
+    if (caja) {
+        p.drawRect(marco);
+    } else if (!arco) {
+        p.drawEllipse(marco);
+    } else {
+        double a0 = std::fabs(inicio), a1 = std::fabs(fin);
+        double barrido = a1 - a0;
+        if (barrido <= 0) barrido += 2 * M_PI;
+        QPainterPath camino;
+        if (inicio < 0 || fin < 0) {
+            camino.moveTo(c);
+            camino.arcTo(marco, a0 * 180 / M_PI, barrido * 180 / M_PI);
+            camino.closeSubpath();
+        } else {
+            camino.arcMoveTo(marco, a0 * 180 / M_PI);
+            camino.arcTo(marco, a0 * 180 / M_PI, barrido * 180 / M_PI);
+        }
+        p.drawPath(camino);
+    }
+}
+
+std::size_t Lienzo::HashFigura::operator()(const ClaveFigura& k) const {
+    std::size_t h = std::hash<float>()(k.rx) * 31 + std::hash<float>()(k.ry);
+    h = h * 31 + std::hash<float>()(k.inicio) + 7 * std::hash<float>()(k.fin);
+    return h * 131 + (k.color ^ uint32_t(k.ancho) << 8 ^ uint32_t(k.estilo) << 12 ^ uint32_t(k.caja) << 16 ^
+                      uint32_t(k.arco) << 17 ^ uint32_t(k.fx) << 20 ^ uint32_t(k.fy) << 24);
+}
+
+const Lienzo::Estampa* Lienzo::SpriteFigura(const QPointF& c, double rx, double ry, double inicio, double fin,
+                                            bool arco, bool caja) {
+    if (rx > RADIO_FIGURA_MAXIMO || ry > RADIO_FIGURA_MAXIMO) return nullptr;
+    const double fx = std::floor((c.x() - std::floor(c.x())) * FASES) / FASES;
+    const double fy = std::floor((c.y() - std::floor(c.y())) * FASES) / FASES;
+    const ClaveFigura clave{static_cast<float>(rx), static_cast<float>(ry), static_cast<float>(inicio),
+                            static_cast<float>(fin), tinta_.rgb(), static_cast<int16_t>(anchoTrazo_),
+                            static_cast<int16_t>(estilo_), caja, arco, static_cast<uint8_t>(fx * FASES),
+                            static_cast<uint8_t>(fy * FASES)};
+    auto it = figuras_.find(clave);
+    if (it != figuras_.end()) return &it->second;
+    if (figuras_.size() > IMAGENES_MAXIMAS) figuras_.clear();
+    const int medio = static_cast<int>(std::ceil(std::max(rx, ry))) + anchoTrazo_ + 2;
+    Estampa e{ImagenVacia(2 * medio + 1, 2 * medio + 1), -medio, -medio};
+    QPainter q(&e.imagen);
+    q.setRenderHint(QPainter::Antialiasing, true);
+    PonPluma(Clave());  // builds the pen if it is new
+    q.setPen(pintor_->pen());
+    q.setBrush(Qt::NoBrush);
+    DibujaFigura(q, QPointF(medio + fx, medio + fy), rx, ry, inicio, fin, arco, caja);
+    q.end();
+    return &figuras_.emplace(clave, std::move(e)).first->second;
 }
 
 void Lienzo::Caja(double x1, double y1, double x2, double y2, bool relleno) {
     actualX_ = x2;
     actualY_ = y2;
-    if (estilo_ == 5) return;
-    pintor_->setPen(Pluma());
+    if (estilo_ == 5 || soloMedida_) return;
+    Vacia();
+    QRectF r = QRectF(APixel(x1, y1), APixel(x2, y2)).normalized();
+    const Estampa* s = relleno ? nullptr : SpriteFigura(r.center(), r.width() / 2, r.height() / 2, 0, 0, false, true);
+    if (s) {
+        Estampa1(s->imagen, static_cast<int>(std::floor(r.center().x())) + s->dx,
+                 static_cast<int>(std::floor(r.center().y())) + s->dy);
+        return;
+    }
+    PonPluma(Clave());
     pintor_->setBrush(relleno ? QBrush(tinta_) : Qt::NoBrush);
-    pintor_->drawRect(QRectF(APixel(x1, y1), APixel(x2, y2)).normalized());
+    pintor_->drawRect(r);
     pintor_->setBrush(Qt::NoBrush);
 }
 
@@ -117,36 +268,26 @@ void Lienzo::Circulo(double x, double y, double r, double aspecto, double inicio
                      const QColor* relleno) {
     actualX_ = x;
     actualY_ = y;
-    if (estilo_ == 5) return;
+    if (estilo_ == 5 || soloMedida_) return;
+    Vacia();
     QPointF c = APixel(x, y);
     double rx = r * PixelesPorUnidad();
     double ry = rx * aspecto;
-    QRectF caja(c.x() - rx, c.y() - ry, 2 * rx, 2 * ry);
-    pintor_->setPen(Pluma());
-    pintor_->setBrush(relleno ? QBrush(*relleno) : Qt::NoBrush);
-    if (!arco) {
-        pintor_->drawEllipse(caja);
-    } else {
-        double a0 = std::fabs(inicio), a1 = std::fabs(fin);
-        double barrido = a1 - a0;
-        if (barrido <= 0) barrido += 2 * M_PI;
-        QPainterPath camino;
-        bool alCentro0 = inicio < 0, alCentro1 = fin < 0;
-        if (alCentro0 || alCentro1) {
-            camino.moveTo(c);
-            camino.arcTo(caja, a0 * 180 / M_PI, barrido * 180 / M_PI);
-            camino.closeSubpath();
-        } else {
-            camino.arcMoveTo(caja, a0 * 180 / M_PI);
-            camino.arcTo(caja, a0 * 180 / M_PI, barrido * 180 / M_PI);
-        }
-        pintor_->drawPath(camino);
+    const Estampa* s = relleno ? nullptr : SpriteFigura(c, rx, ry, inicio, fin, arco, false);
+    if (s) {
+        Estampa1(s->imagen, static_cast<int>(std::floor(c.x())) + s->dx, static_cast<int>(std::floor(c.y())) + s->dy);
+        return;
     }
+    PonPluma(Clave());
+    pintor_->setBrush(relleno ? QBrush(*relleno) : Qt::NoBrush);
+    DibujaFigura(*pintor_, c, rx, ry, inicio, fin, arco, false);
     pintor_->setBrush(Qt::NoBrush);
 }
 
 void Lienzo::Fase(double x, double y, double r, double iluminada, double haciaSol, const QColor& luz,
                   const QColor& sombra) {
+    if (soloMedida_) return;
+    Vacia();
     QPointF c = APixel(x, y);
     double rp = r * PixelesPorUnidad();
     pintor_->save();
@@ -183,22 +324,54 @@ void Lienzo::FijaFuente(const QFont& f) {
     altoLinea_ = m.height();
 }
 
-void Lienzo::Escribe(std::string_view cp1252) {
+const Lienzo::Estampa& Lienzo::ImagenRotulo(std::string_view texto, QRgb color, int fase) {
+    std::string clave(texto);
+    clave.append(reinterpret_cast<const char*>(&color), sizeof color);
+    clave.push_back(static_cast<char>(fase));
+    auto it = textos_.find(clave);
+    if (it != textos_.end()) return it->second;
+    if (textos_.size() > IMAGENES_MAXIMAS) textos_.clear();
+    // A label rendered once in its colour at its phase, with room for the
+    // glyphs' overhang.
+    QStaticText t(QString::fromUtf8(DesdeA1252(std::string(texto))));
+    t.setTextFormat(Qt::PlainText);
+    t.prepare(QTransform(), fuente_);
+    const int margen = 4;
+    QSizeF tam = t.size();
+    Estampa e{ImagenVacia(static_cast<int>(std::ceil(tam.width())) + 2 * margen,
+                          static_cast<int>(std::ceil(std::max(tam.height(), altoLinea_))) + 2 * margen),
+              -margen, -margen};
+    QPainter q(&e.imagen);
+    q.setRenderHint(QPainter::TextAntialiasing, true);
+    q.setFont(fuente_);
+    q.setPen(QColor(color));
+    q.drawStaticText(QPointF(margen + fase / FASES_TEXTO, margen), t);
+    q.end();
+    return textos_.emplace(std::move(clave), std::move(e)).first->second;
+}
+
+void Lienzo::Escribe(std::string_view cp1252, float prioridad) {
     QPointF p = APixel(actualX_, actualY_);
     // The pen moves to the start of the next line, as Print leaves it.
     actualY_ += altoLinea_ / sy_;
     std::size_t fin = cp1252.find_last_not_of(' ');
     if (fin == std::string_view::npos) return;  // blanks draw nothing
-    std::string clave(cp1252.substr(0, fin + 1));
-    auto it = textos_.find(clave);
-    if (it == textos_.end()) {
-        QStaticText t(QString::fromUtf8(DesdeA1252(clave)));
-        t.setTextFormat(Qt::PlainText);
-        t.prepare(QTransform(), fuente_);
-        it = textos_.emplace(std::move(clave), std::move(t)).first;
+    const double px = std::floor(p.x());
+    const int fase = static_cast<int>((p.x() - px) * FASES_TEXTO);
+    const Estampa& t = ImagenRotulo(cp1252.substr(0, fin + 1), tinta_.rgb(), fase);
+    // Glyphs sit on a whole-pixel baseline, as the painter places them.
+    const int x = static_cast<int>(px);
+    const int y = static_cast<int>(std::lround(p.y() + ascenso_) - std::lround(ascenso_ - t.dy)) - t.dy;
+    // The box of the text itself, without the image's margin.
+    const QRect caja(x, y, t.imagen.width() + 2 * t.dx, t.imagen.height() + 2 * t.dy);
+    if (soloMedida_) {
+        rotulos_.Mide(caja, prioridad);
+        return;
     }
-    pintor_->setPen(tinta_);
-    pintor_->drawStaticText(QPointF(p.x(), p.y()), it->second);
+    const bool visible = caja.intersects(imagen_.rect());
+    if (!rotulos_.Toca(visible) || !visible) return;
+    Vacia();
+    Estampa1(t.imagen, x + t.dx, y + t.dy);
 }
 
 }  // namespace vedrano

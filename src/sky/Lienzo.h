@@ -1,17 +1,26 @@
 // The drawing surface of the sky picture: the verbs the plotters use, in a
 // user scale (ScaleLeft, ScaleTop, ScaleWidth, ScaleHeight, negative
 // values mirroring an axis), over QPainter on an off-screen image.
+//
+// For speed the surface keeps some work pending or ready-made: lines are
+// gathered per pen and stroked with one call when the pen changes or
+// another verb draws; pens are built once per colour, width and style;
+// labels, dots and small symbols are rendered once to small images and
+// then stamped. The picture is the same as drawing each verb at once.
 #pragma once
 #include <QColor>
 #include <QFont>
 #include <QImage>
 #include <QPainter>
-#include <QPixmap>
-#include <QStaticText>
-#include <unordered_map>
-#include <map>
+#include <QPen>
+#include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "sky/RotulosPasada.h"
 
 namespace vedrano {
 
@@ -24,13 +33,14 @@ public:
 
     int Ancho() const { return imagen_.width(); }
     int Alto() const { return imagen_.height(); }
-    const QImage& Imagen() const { return imagen_; }
+    // The picture, with any pending lines drawn.
+    const QImage& Imagen() const;
     // Resizes the surface; the picture is cleared.
     void Redimensiona(int ancho, int alto);
 
     // User scale: the picture spans from (izquierda, superior) over ancho x alto units.
     void Escala(float izquierda, float superior, float ancho, float alto);
-    QPointF APixel(double x, double y) const;
+    QPointF APixel(double x, double y) const { return {(x - izquierda_) * sx_, (y - superior_) * sy_}; }
     double PixelesPorUnidad() const;
 
     void Cls();                      // clears to BackColor
@@ -63,17 +73,61 @@ public:
               const QColor& sombra);
 
     // Print: Windows-1252 text with its top-left corner at (CurrentX, CurrentY).
+    // prioridad ranks the label against others that would overlap it (the
+    // brighter or larger object higher); see RotulosPasada.
     void FijaPosicion(double x, double y) { actualX_ = x, actualY_ = y; }
     double ActualX() const { return actualX_; }
     double ActualY() const { return actualY_; }
-    void Escribe(std::string_view cp1252);
+    void Escribe(std::string_view cp1252, float prioridad = 0);
     void FijaFuente(const QFont& f);
 
+    // The labels of the pass: measured only (nothing is drawn), or drawn
+    // when their turn won. See RotulosPasada.
+    RotulosPasada& Rotulos() { return rotulos_; }
+    // When set, the verbs only move the pen: labels are measured and nothing
+    // is drawn.
+    void FijaSoloMedida(bool s) { soloMedida_ = s; }
+    bool SoloMedida() const { return soloMedida_; }
+
+    // Strokes the lines gathered so far.
+    void Vacia() const;
+
 private:
-    QPen Pluma() const;
-    const QPixmap& SpritePunto(int ancho, QRgb color);
+    struct ClavePluma {
+        QRgb color;
+        int ancho, estilo;
+        bool operator==(const ClavePluma&) const = default;
+    };
+    // What makes one ready-made symbol: its figure, size, pen and the
+    // quarter-pixel phase of its centre.
+    struct ClaveFigura {
+        float rx, ry, inicio, fin;
+        QRgb color;
+        int16_t ancho, estilo;
+        uint8_t caja, arco, fx, fy;
+        bool operator==(const ClaveFigura&) const = default;
+    };
+    struct HashFigura {
+        std::size_t operator()(const ClaveFigura& k) const;
+    };
+    struct Estampa {
+        QImage imagen;
+        int dx = 0, dy = 0;  // offset of the image from the anchor pixel
+    };
+    ClavePluma Clave() const { return {tinta_.rgba(), anchoTrazo_, estilo_}; }
+    void PonPluma(const ClavePluma& k) const;
+    bool FueraDeImagen(const QPointF& a, const QPointF& b, double margen) const;
+    void Estampa1(const QImage& s, int x, int y);
+    const QImage& SpritePunto(int ancho, QRgb color);
+    const Estampa* SpriteFigura(const QPointF& c, double rx, double ry, double inicio, double fin, bool arco,
+                                bool caja);
+    const Estampa& ImagenRotulo(std::string_view texto, QRgb color, int fase);
+    void DibujaFigura(QPainter& p, const QPointF& c, double rx, double ry, double inicio, double fin, bool arco,
+                      bool caja) const;
 
     QImage imagen_;
+    uchar* pixeles_ = nullptr;
+    qsizetype linea_ = 0;
     std::unique_ptr<QPainter> pintor_;
     float izquierda_ = 0, superior_ = 0, ancho_ = 1, alto_ = 1;
     double sx_ = 1, sy_ = 1;
@@ -81,10 +135,19 @@ private:
     int anchoTrazo_ = 1, estilo_ = 0;
     double actualX_ = 0, actualY_ = 0;
     QFont fuente_;
-    std::map<std::pair<int, QRgb>, QPixmap> sprites_;
-    // Labels are laid out once and reused on every pass.
-    std::unordered_map<std::string, QStaticText> textos_;
+    bool soloMedida_ = false;
+
+    // Lines waiting to be stroked, all with the pen `clavePendiente_`.
+    mutable std::vector<QLineF> pendientes_;
+    mutable ClavePluma clavePendiente_{0, 0, -1};
+    mutable ClavePluma clavePuesta_{0, 0, -1};
+    mutable std::unordered_map<uint64_t, QPen> plumas_;
+
+    std::unordered_map<uint64_t, QImage> puntos_;
+    std::unordered_map<ClaveFigura, Estampa, HashFigura> figuras_;
+    std::unordered_map<std::string, Estampa> textos_;
     double ascenso_ = 0, altoLinea_ = 0;
+    RotulosPasada rotulos_;
 };
 
 }  // namespace vedrano

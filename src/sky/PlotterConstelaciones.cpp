@@ -18,7 +18,7 @@ void DibujaConstelaciones(Contexto& x) {
     for (int i = 0; i <= n; ++i) {
         const PuntoTrazo& f = x.c.TablaFiguras[static_cast<std::size_t>(i)];
         // No threshold here: the pen style alone hides strokes behind the observer.
-        PuntoProyectado p = ProyectaPunto(e, f.Direccion);
+        PuntoProyectado p = Proyecta(x.v.catalogo, f.Direccion);
         AjustaTrazo(x, p, estilo);
         if (f.Pluma == 0) x.l.Linea(anterior.X, anterior.Y, p.X, p.Y);
         anterior = p;
@@ -29,13 +29,13 @@ void DibujaConstelaciones(Contexto& x) {
     x.l.FijaColor(ColorVB(COLOR_NOMBRES));
     for (const Constelacion& c : x.c.TablaConstelaciones) {
         if (c.Nivel > e.NivelConstelaciones) continue;
-        PuntoProyectado p = ProyectaPunto(e, c.Direccion);
+        PuntoProyectado p = Proyecta(x.v.catalogo, c.Direccion);
         if (!EsVisible(e, p)) continue;
         x.l.FijaPosicion(p.X, p.Y);
         switch (e.IdConstelaciones) {
-            case 1: x.l.Escribe(c.Abreviatura.texto()); break;
-            case 2: x.l.Escribe(c.NombreCastellano.texto()); break;
-            case 3: x.l.Escribe(c.NombreLatino.texto()); break;
+            case 1: x.l.Escribe(c.Abreviatura.texto(), RANGO_CONSTELACIONES); break;
+            case 2: x.l.Escribe(c.NombreCastellano.texto(), RANGO_CONSTELACIONES); break;
+            case 3: x.l.Escribe(c.NombreLatino.texto(), RANGO_CONSTELACIONES); break;
             default: break;
         }
     }

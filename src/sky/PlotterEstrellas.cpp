@@ -9,10 +9,11 @@ void DibujaEstrellas(Contexto& x) {
     const Estado& e = x.e;
     float magnitudRecordada = -9.0f;
     int claseRecordada = -1;  // the first star always sets the colour
-    int n = CuentaNivel(x.c.TablasCuentas.Estrellas, e.NivelEstrellas);
+    // A measuring run needs the labels only.
+    int n = x.l.SoloMedida() ? -1 : CuentaNivel(x.c.TablasCuentas.Estrellas, e.NivelEstrellas);
     for (int i = 0; i <= n; ++i) {
         const Estrella& s = x.c.TablaEstrellas[static_cast<std::size_t>(i)];
-        PuntoProyectado p = ProyectaPunto(e, s.Direccion);
+        PuntoProyectado p = Proyecta(x.v.catalogo, s.Direccion);
         if (!EsVisible(e, p)) continue;
         if (s.Magnitud != magnitudRecordada) {
             // Stars are sorted by magnitude: the pen changes only at class steps.
@@ -32,10 +33,10 @@ void DibujaEstrellas(Contexto& x) {
     int m = CuentaNivel(x.c.TablasCuentas.Rotulos, e.NivelEstrellas);
     for (int j = 0; j <= m; ++j) {
         const EstrellaNombre& s = x.c.TablaEstrellasNombre[static_cast<std::size_t>(j)];
-        PuntoProyectado p = ProyectaPunto(e, s.Direccion);
+        PuntoProyectado p = Proyecta(x.v.catalogo, s.Direccion);
         if (!EsVisible(e, p)) continue;
         x.l.FijaPosicion(p.X, p.Y);
-        x.l.Escribe(e.IdEstrellas == 1 ? s.Designacion.texto() : s.Nombre.texto());
+        x.l.Escribe(e.IdEstrellas == 1 ? s.Designacion.texto() : s.Nombre.texto(), RangoMagnitud(s.Magnitud));
     }
 }
 

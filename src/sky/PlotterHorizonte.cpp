@@ -35,17 +35,17 @@ void DibujaHorizonte(Contexto& x) {
     const auto& h = TablaHorizonte();
     int16_t estilo = static_cast<int16_t>(x.l.EstiloTrazo());
     x.l.FijaColor(ColorVB(COLOR_HORIZONTE));
-    PuntoProyectado p = ProyectaHorizontal(e, h[0]);
+    PuntoProyectado p = Proyecta(x.v.horizonte, h[0]);
     AjustaTrazo(x, p, estilo);
     x.l.Punto(p.X, p.Y);
     for (int k = 1; k <= 72; ++k) {
-        p = ProyectaHorizontal(e, h[static_cast<std::size_t>(k)]);
+        p = Proyecta(x.v.horizonte, h[static_cast<std::size_t>(k)]);
         AjustaTrazo(x, p, estilo);
         x.l.LineaA(p.X, p.Y);
     }
     x.l.FijaEstiloTrazo(0);
 
-    PuntoProyectado cenit = ProyectaHorizontal(e, {0, 0, 1});
+    PuntoProyectado cenit = Proyecta(x.v.horizonte, {0, 0, 1});
     if (EsVisible(e, cenit)) {
         double m = std::fabs(e.EscalaAncho) / 80;
         x.l.Linea(cenit.X - m, cenit.Y, cenit.X + m, cenit.Y);
@@ -53,16 +53,15 @@ void DibujaHorizonte(Contexto& x) {
     }
     const std::string rumbos = "N NEE SES SOO NO";
     for (int k = 0; k <= 7; ++k) {
-        p = ProyectaHorizontal(e, h[static_cast<std::size_t>(9 * k)]);
+        p = Proyecta(x.v.horizonte, h[static_cast<std::size_t>(9 * k)]);
         if (!EsVisible(e, p)) continue;
         x.l.Punto(p.X, p.Y);
-        x.l.Escribe(Mid(rumbos, 2 * k + 1, 2));
+        x.l.Escribe(Mid(rumbos, 2 * k + 1, 2), RANGO_RUMBOS);
     }
     x.l.FijaColor(ColorVB(0xFFFFFF));
 }
 
-void DibujaLuzDiurna(Contexto& x) {
-    Estado& e = x.e;
+QColor ColorLuzDiurna(Estado& e) {
     // Looking at the zenith, the Sun's depth is the sine of its altitude.
     double elevacion = e.Elevacion;
     e.Elevacion = MEDIO_PI;
@@ -74,7 +73,7 @@ void DibujaLuzDiurna(Contexto& x) {
     int azul = CInt(p.Z * 640.0 + 192.0);
     if (azul < 0) azul = 0;
     if (azul > 192) azul = 192;
-    x.l.FijaFondo(QColor(0, 0, azul));
+    return QColor(0, 0, azul);
 }
 
 }  // namespace vedrano

@@ -13,16 +13,11 @@ namespace vedrano {
 
 namespace {
 
-// Projects a direction already referred to the equator of the date.
-PuntoProyectado ProyectaDeFecha(const Estado& e, const Vector3f& v) {
-    return ProyectaHorizontal(e, EcuatorialAHorizontal(e, v));
-}
-
 // A polyline of directions of the date, hidden where it runs behind.
 void Polilinea(Contexto& x, const std::vector<Vector3f>& puntos) {
     int16_t estilo = static_cast<int16_t>(x.l.EstiloTrazo());
     for (std::size_t i = 0; i < puntos.size(); ++i) {
-        PuntoProyectado p = ProyectaDeFecha(x.e, puntos[i]);
+        PuntoProyectado p = Proyecta(x.v.fecha, puntos[i]);
         AjustaTrazo(x, p, estilo);
         if (i == 0)
             x.l.FijaPosicion(p.X, p.Y);
@@ -53,10 +48,10 @@ Rejilla ConstruyeRejilla(int paso) {
 }
 
 void Rotula(Contexto& x, const Vector3f& v, const std::string& texto) {
-    PuntoProyectado p = ProyectaDeFecha(x.e, v);
+    PuntoProyectado p = Proyecta(x.v.fecha, v);
     if (!EsVisible(x.e, p)) return;
     x.l.FijaPosicion(p.X, p.Y);
-    x.l.Escribe(texto);
+    x.l.Escribe(texto, RANGO_REJILLA);
 }
 
 }  // namespace
@@ -80,7 +75,7 @@ void DibujaLimites(Contexto& x) {
     x.l.FijaColor(ColorVB(0x707070));
     int16_t estilo = -1;
     for (const PuntoTrazo& t : x.c.TablaLimites) {
-        PuntoProyectado p = ProyectaPunto(x.e, t.Direccion);
+        PuntoProyectado p = Proyecta(x.v.catalogo, t.Direccion);
         int16_t quiere = p.Z < 0 ? 5 : 2;
         if (quiere != estilo) {
             estilo = quiere;
@@ -119,7 +114,7 @@ void DibujaViaLactea(Contexto& x) {
             nuevo = true;
             continue;
         }
-        PuntoProyectado p = ProyectaPunto(x.e, v);
+        PuntoProyectado p = Proyecta(x.v.catalogo, v);
         AjustaTrazo(x, p, estilo);
         if (nuevo)
             x.l.FijaPosicion(p.X, p.Y);

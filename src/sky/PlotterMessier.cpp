@@ -23,7 +23,7 @@ void DibujaMessier(Contexto& x) {
     const Estado& e = x.e;
     for (int i = 0; i < static_cast<int>(x.c.TablaMessier.size()); ++i) {
         const ObjetoMessier& m = x.c.TablaMessier[static_cast<std::size_t>(i)];
-        PuntoProyectado p = ProyectaPunto(e, m.Direccion);
+        PuntoProyectado p = Proyecta(x.v.catalogo, m.Direccion);
         if (!EsVisible(e, p)) continue;
         int f = FactorTamano(m);
         double r = 0.0015 * f;
@@ -53,7 +53,9 @@ void DibujaMessier(Contexto& x) {
         if (e.IdMessier == 0 || i == 101) continue;
         x.l.FijaColor(ColorVB(0xFFFFFF));
         x.l.FijaPosicion(p.X + r, p.Y);
-        x.l.Escribe(e.IdMessier == 1 ? " M" + std::to_string(i + 1) : m.Nombre.texto());
+        double mag = Val(m.Magnitud.texto());
+        x.l.Escribe(e.IdMessier == 1 ? " M" + std::to_string(i + 1) : m.Nombre.texto(),
+                    RangoMagnitud(mag > 0 ? mag : 9));
     }
     x.l.FijaColor(ColorVB(0xFFFFFF));
 }

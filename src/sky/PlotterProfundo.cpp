@@ -13,18 +13,23 @@ template <typename Registro, typename Funcion>
 void Recorre(Contexto& x, const std::vector<Registro>& tabla, int n, Funcion dibuja) {
     for (int i = 0; i <= n && i < static_cast<int>(tabla.size()); ++i) {
         const Registro& r = tabla[static_cast<std::size_t>(i)];
-        PuntoProyectado p = ProyectaPunto(x.e, r.Direccion);
+        PuntoProyectado p = Proyecta(x.v.catalogo, r.Direccion);
         if (!EsVisible(x.e, p)) continue;
         dibuja(r, p);
     }
 }
 
-void Rotulo(Contexto& x, double px, double py, const std::string& texto, const QColor* color = nullptr) {
+// Rank of a deep-sky label from its size class (1 the largest): as a
+// magnitude 7 object for the largest, one step fainter per class.
+float RangoClase(int clase) { return RangoMagnitud(6 + clase); }
+
+void Rotulo(Contexto& x, double px, double py, const std::string& texto, float rango,
+            const QColor* color = nullptr) {
     if (!x.e.IdentificarObjetos) return;
     QColor antes = x.l.Color();
     if (color) x.l.FijaColor(*color);
     x.l.FijaPosicion(px, py);
-    x.l.Escribe(texto);
+    x.l.Escribe(texto, rango);
     x.l.FijaColor(antes);
 }
 
@@ -37,7 +42,7 @@ void DibujaGalaxias(Contexto& x) {
     Recorre(x, x.c.TablaGalaxias, CuentaNivel(t, x.e.NivelGalaxias), [&](const ObjetoProfundo& g, PuntoProyectado p) {
         double r = 0.0015 * (7 - g.Clase);
         x.l.Circulo(p.X, p.Y, r, 0.6);
-        Rotulo(x, p.X + r, p.Y, g.Designacion.texto());
+        Rotulo(x, p.X + r, p.Y, g.Designacion.texto(), RangoClase(g.Clase));
     });
 }
 
@@ -47,7 +52,7 @@ void DibujaNebulosas(Contexto& x, const std::vector<ObjetoProfundo>& tabla, cons
     Recorre(x, tabla, CuentaNivel(cuentas, nivel), [&](const ObjetoProfundo& o, PuntoProyectado p) {
         double r = 0.0015 * (4 - o.Clase);
         x.l.Caja(p.X - r, p.Y - r, p.X + r, p.Y + r);
-        Rotulo(x, p.X + r / 2, p.Y + r / 3, o.Designacion.texto(), &BLANCO);
+        Rotulo(x, p.X + r / 2, p.Y + r / 3, o.Designacion.texto(), RangoClase(o.Clase), &BLANCO);
     });
 }
 
@@ -58,7 +63,7 @@ void DibujaCumulos(Contexto& x, const std::vector<ObjetoProfundo>& tabla, const 
         double r = 0.003 * (3 - o.Clase);
         x.l.Circulo(p.X, p.Y, r);
         x.l.Linea(p.X - r, p.Y, p.X + r, p.Y);
-        Rotulo(x, p.X + r * desplazaRotulo, p.Y, o.Designacion.texto(), &BLANCO);
+        Rotulo(x, p.X + r * desplazaRotulo, p.Y, o.Designacion.texto(), RangoClase(o.Clase), &BLANCO);
     });
 }
 
@@ -72,7 +77,7 @@ void DibujaExoticos(Contexto& x, const std::vector<ObjetoExotico>& tabla, bool m
             x.l.Circulo(p.X, p.Y, R, 1.0, -0.0001, -MEDIO_PI, true);
             x.l.Circulo(p.X, p.Y, R, 1.0, -PI, -4.7123889804, true);
         }
-        Rotulo(x, p.X + R, p.Y, o.Nombre.texto());
+        Rotulo(x, p.X + R, p.Y, o.Nombre.texto(), RANGO_EXOTICOS);
     });
 }
 

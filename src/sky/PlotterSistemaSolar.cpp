@@ -77,7 +77,7 @@ void DibujaCuerpo(Contexto& x, int cuerpo) {
     }
     x.l.FijaColor(ColorVB(0xFFFFFF));
     x.l.FijaPosicion(p.X + a.radio, p.Y);
-    x.l.Escribe(x.c.TablaPlanetas[static_cast<std::size_t>(cuerpo)].Codigo.texto());
+    x.l.Escribe(x.c.TablaPlanetas[static_cast<std::size_t>(cuerpo)].Codigo.texto(), RANGO_CUERPOS);
 }
 
 }  // namespace vedrano

@@ -8,6 +8,7 @@
 #include "app/Estado.h"
 #include "catalogue/Catalogos.h"
 #include "sky/Lienzo.h"
+#include "sky/OpcionesDibujo.h"
 #include "sky/proyeccion/Proyeccion.h"
 
 namespace vedrano {
@@ -16,7 +17,15 @@ struct Contexto {
     Estado& e;
     const Catalogos& c;
     Lienzo& l;
+    VistasPasada v;  // the projection, prepared once for the pass
+    const OpcionesDibujo& o;
 };
+
+// Ranks of labels that would overlap (higher wins): objects by magnitude
+// on one scale, the few labels that orient the picture above them.
+constexpr float RANGO_CUERPOS = 100, RANGO_RUMBOS = 90, RANGO_CONSTELACIONES = 60, RANGO_EXOTICOS = 25,
+                RANGO_REJILLA = 10;
+inline float RangoMagnitud(double magnitud) { return static_cast<float>(50 - magnitud); }
 
 // Sets the pen style for a line end behind the observer (transparent) or
 // in front (solid), changing it only when it differs.
@@ -25,7 +34,8 @@ void AjustaTrazo(Contexto& x, const PuntoProyectado& p, int16_t& estiloRecordado
 // The count entry of a detail level; a level outside 0..7 is error 9.
 int CuentaNivel(const TablaCuentas& t, int nivel);
 
-void DibujaLuzDiurna(Contexto& x);
+// The sky background from the Sun's altitude.
+QColor ColorLuzDiurna(Estado& e);
 void DibujaRejilla(Contexto& x, int pasoGrados);
 void DibujaLimites(Contexto& x);
 void DibujaHorizonte(Contexto& x);

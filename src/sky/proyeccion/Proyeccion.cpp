@@ -1,5 +1,6 @@
 #include "sky/proyeccion/Proyeccion.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "app/Aritmetica.h"
@@ -47,6 +48,41 @@ PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v) {
 
 namespace {
 
+// The rotation chain applied to the three unit vectors: columns of the
+// matrix from a frame to the view frame. desde 0 starts at catalogue
+// directions (with precession when asked), 1 at directions of the date,
+// 2 at horizon directions.
+void ConstruyeMatriz(const Estado& e, int desde, bool precesion, double m[3][3]) {
+    const DerivadosRotacion& r = e.Derivados;
+    for (int j = 0; j < 3; ++j) {
+        double v[3] = {0, 0, 0};
+        v[j] = 1;
+        if (precesion) {
+            double w[3];
+            for (int i = 0; i < 3; ++i) w[i] = r.p[i][0] * v[0] + r.p[i][1] * v[1] + r.p[i][2] * v[2];
+            v[0] = w[0], v[1] = w[1], v[2] = w[2];
+        }
+        double X1 = v[0], Y2 = v[1], Z2 = v[2];
+        if (desde < 2) {
+            X1 = v[0] * r.cs + v[2] * r.ss;
+            double Z1 = v[2] * r.cs - v[0] * r.ss;
+            Y2 = v[1] * r.cf - Z1 * r.sf;
+            Z2 = Z1 * r.cf + v[1] * r.sf;
+        }
+        double X3 = X1 * r.cc + Y2 * r.sc;
+        double Y3 = Y2 * r.cc - X1 * r.sc;
+        m[0][j] = X3;
+        m[1][j] = Y3 * r.cd + Z2 * r.sd;
+        m[2][j] = Z2 * r.cd - Y3 * r.sd;
+    }
+}
+
+void PreparaDerivados(const Estado& e) {
+    if (e.Precesion) PreparaPrecesion(e);
+    PreparaHorizonte(e);
+    Vista(e);
+}
+
 // The chain precession - sidereal rotation - latitude - turn - tilt as one
 // matrix, rebuilt when any of its angles changes: the stars then cost nine
 // products each.
@@ -56,27 +92,8 @@ const DerivadosRotacion& Cadena(const Estado& e) {
     bool igual = r.completaLista && r.conPrecesion == e.Precesion;
     for (int i = 0; i < 7 && igual; ++i) igual = r.claves[i] == claves[i];
     if (igual) return r;
-    if (e.Precesion) PreparaPrecesion(e);
-    PreparaHorizonte(e);
-    Vista(e);
-    for (int j = 0; j < 3; ++j) {
-        double v[3] = {0, 0, 0};
-        v[j] = 1;
-        if (e.Precesion) {
-            double w[3];
-            for (int i = 0; i < 3; ++i) w[i] = r.p[i][0] * v[0] + r.p[i][1] * v[1] + r.p[i][2] * v[2];
-            v[0] = w[0], v[1] = w[1], v[2] = w[2];
-        }
-        double X1 = v[0] * r.cs + v[2] * r.ss;
-        double Z1 = v[2] * r.cs - v[0] * r.ss;
-        double Y2 = v[1] * r.cf - Z1 * r.sf;
-        double Z2 = Z1 * r.cf + v[1] * r.sf;
-        double X3 = X1 * r.cc + Y2 * r.sc;
-        double Y3 = Y2 * r.cc - X1 * r.sc;
-        r.m[0][j] = X3;
-        r.m[1][j] = Y3 * r.cd + Z2 * r.sd;
-        r.m[2][j] = Z2 * r.cd - Y3 * r.sd;
-    }
+    PreparaDerivados(e);
+    ConstruyeMatriz(e, 0, e.Precesion, r.m);
     for (int i = 0; i < 7; ++i) r.claves[i] = claves[i];
     r.conPrecesion = e.Precesion;
     r.completaLista = true;
@@ -90,6 +107,15 @@ PuntoProyectado ProyectaPunto(const Estado& e, Vector3f v) {
     return {static_cast<float>(r.m[0][0] * v.x + r.m[0][1] * v.y + r.m[0][2] * v.z),
             static_cast<float>(r.m[1][0] * v.x + r.m[1][1] * v.y + r.m[1][2] * v.z),
             static_cast<float>(r.m[2][0] * v.x + r.m[2][1] * v.y + r.m[2][2] * v.z)};
+}
+
+VistasPasada PreparaVistas(const Estado& e) {
+    VistasPasada v;
+    const DerivadosRotacion& r = Cadena(e);
+    std::copy(&r.m[0][0], &r.m[0][0] + 9, &v.catalogo.m[0][0]);
+    ConstruyeMatriz(e, 1, false, v.fecha.m);
+    ConstruyeMatriz(e, 2, false, v.horizonte.m);
+    return v;
 }
 
 void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, float& altitud,

@@ -18,6 +18,27 @@ struct PuntoProyectado {
 // precession switch is on).
 PuntoProyectado ProyectaPunto(const Estado& e, Vector3f v);
 
+// The whole rotation from a frame to the view frame as one matrix, built
+// once for a pass so that each object then costs nine products.
+struct MatrizVista {
+    double m[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
+};
+
+// The matrices of a pass: catalogue directions (precessed when the switch
+// is on, as ProyectaPunto), directions of the date (as ProyectaHorizontal
+// after EcuatorialAHorizontal) and horizon-frame directions (as
+// ProyectaHorizontal).
+struct VistasPasada {
+    MatrizVista catalogo, fecha, horizonte;
+};
+VistasPasada PreparaVistas(const Estado& e);
+
+inline PuntoProyectado Proyecta(const MatrizVista& r, const Vector3f& v) {
+    return {static_cast<float>(r.m[0][0] * v.x + r.m[0][1] * v.y + r.m[0][2] * v.z),
+            static_cast<float>(r.m[1][0] * v.x + r.m[1][1] * v.y + r.m[1][2] * v.z),
+            static_cast<float>(r.m[2][0] * v.x + r.m[2][1] * v.y + r.m[2][2] * v.z)};
+}
+
 // As ProyectaPunto, and leaves the precessed direction in v.
 PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v);
 
