@@ -21,8 +21,8 @@ constexpr double RADIO_FIGURA_MAXIMO = 40;
 // Ready-made symbols are kept for a quarter-pixel grid of positions, labels
 // for an eighth of a pixel across (glyphs are placed at fractions of a
 // pixel horizontally, on whole pixels vertically).
-constexpr double FASES = 4;
-constexpr double FASES_TEXTO = 8;
+constexpr double FASES = 16;
+constexpr double FASES_TEXTO = 16;
 // Beyond this many ready-made images (zooming makes new sizes) they are
 // made afresh.
 constexpr std::size_t IMAGENES_MAXIMAS = 4096;
@@ -97,6 +97,9 @@ void Lienzo::PonPluma(const ClavePluma& k) const {
         QPen p{QColor::fromRgba(k.color)};
         p.setWidthF(k.ancho);
         p.setCapStyle(Qt::RoundCap);
+        // A one-pixel pen is cosmetic: the painter then strokes it with its
+        // fast line rasteriser rather than as a filled outline.
+        p.setCosmetic(k.ancho <= 1);
         if (k.estilo == 2) p.setStyle(Qt::DotLine);
         if (k.estilo == 1) p.setStyle(Qt::DashLine);
         it = plumas_.emplace(h, p).first;
