@@ -213,7 +213,8 @@ protected:
         Opciones::SetUp();
         ASSERT_TRUE(dir.isValid());
         e.DirArchivo = dir.path().toStdString() + "/";
-        for (const char* n : {"b.ls1", "Plut\xC3\xB3n.ls1", "A.LS1", "Temporal.wrk", "notas.txt"})
+        for (const char* n : {"b.ls1", "Plut\xC3\xB3n.ls1", "A.LS1", "Temporal.wrk", "notas.txt", "\xCE\xA9mega.ls1",
+                              "\xE6\x9D\xB1\xE4\xBA\xAC.ls1"})
             std::ofstream(e.DirArchivo + n) << "x";
     }
     QStringList Lista(CargaGuar& d) {
@@ -230,9 +231,24 @@ protected:
 
 TEST_F(Configuraciones, ListaSoloLosArchivosDeConfiguracion) {
     CargaGuar d(*ctx);
-    EXPECT_EQ(Lista(d), (QStringList{"A.LS1", "b.ls1", QString::fromUtf8("Plutón.ls1")}));
+    EXPECT_EQ(Lista(d), (QStringList{"A.LS1", "b.ls1", QString::fromUtf8("Plutón.ls1"), QString::fromUtf8("Ωmega.ls1"),
+                                     QString::fromUtf8("東京.ls1")}));
     d.lista()->setCurrentRow(2);
     EXPECT_EQ(d.nombre()->text(), QString::fromUtf8("Plutón.ls1"));
+}
+
+TEST_F(Configuraciones, NombresFueraDeLaPaginaDeCodigos) {
+    CargaGuar d(*ctx);
+    e.FechaJuliana = 2451545.0;
+    d.nombre()->setText(QString::fromUtf8("Ωmega-copia"));
+    Pulsa(d.guardar());
+    EXPECT_TRUE(QFile::exists(dir.filePath(QString::fromUtf8("Ωmega-copia.ls1"))));
+    EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("?mega-copia.ls1"))));
+    e.FechaJuliana = 0;
+    d.nombre()->setText(QString::fromUtf8("Ωmega-copia.ls1"));
+    Pulsa(d.cargar());
+    EXPECT_DOUBLE_EQ(e.FechaJuliana, 2451545.0);
+    EXPECT_TRUE(m.textos.empty());
 }
 
 TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
@@ -270,6 +286,24 @@ TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
     EXPECT_NE(m.textos.back().find("nombre.ls1"), std::string::npos);
 }
 
+// A name that leads nowhere is told, with the file, and the situation on
+// the screen stays as it was: the reader is not called.
+TEST_F(Configuraciones, NombreQueNoExisteNoCambiaNada) {
+    CargaGuar d(*ctx);
+    e.FechaJuliana = 2451545.0;
+    e.Zoom = 7.0f;
+    d.nombre()->setText(QStringLiteral("NoExiste"));
+    Pulsa(d.cargar());
+    ASSERT_EQ(m.textos.size(), 1u);
+    EXPECT_EQ(m.textos[0], "No existe un archivo de configuraci\xF3n con ese nombre.\r\n" + e.DirArchivo +
+                               "NoExiste.ls1");
+    EXPECT_EQ(m.titulos[0], "Cargar configuraci\xF3n");
+    EXPECT_DOUBLE_EQ(e.FechaJuliana, 2451545.0);
+    EXPECT_EQ(e.Zoom, 7.0f);
+    EXPECT_FALSE(e.Cambiado);
+    EXPECT_EQ(actualizaciones, 0);
+}
+
 TEST_F(Configuraciones, NombreVacioYCarpetaSinEscritura) {
     CargaGuar d(*ctx);
     d.nombre()->setText(QStringLiteral("   "));
@@ -301,7 +335,8 @@ TEST_F(Configuraciones, BorrarPideConfirmacion) {
 
     d.nombre()->setText(QStringLiteral("noexiste.ls1"));
     Pulsa(d.borrar());
-    EXPECT_EQ(m.textos.back(), "No existe un archivo de configuraci\xF3n con ese nombre.");
+    EXPECT_EQ(m.textos.back(), "No existe un archivo de configuraci\xF3n con ese nombre.\r\n" + e.DirArchivo +
+                                   "noexiste.ls1");
 
     // The switch belongs to the configuration's state.
     Pulsa(d.incluirAnimacion());
