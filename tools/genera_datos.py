@@ -13,6 +13,7 @@ import sys
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
+import genera_profundas  # noqa: E402
 from datos import (cielo_profundo, constelaciones, estrellas, exoticos,  # noqa: E402
                    lugares, messier, niveles, via_lactea)
 
@@ -39,6 +40,8 @@ def genera(fuentes, salida):
         niveles.por_clase(clases['VDRDATI.DAT']),
         niveles.por_clase(clases['VDRDATJ.DAT']),
     ])
+    # The deep stars leave out those of VDRDAT1.DAT, written above.
+    genera_profundas.genera(os.path.join(fuentes, 'estrellas_profundas'), salida)
     # The solar-system file has its own builder, when it is present.
     if importlib.util.find_spec('datos.planetas') is not None:
         from datos import planetas
