@@ -1,10 +1,19 @@
 // The full rendering pass with every layer on and all stars, at 1024x768
-// and 1920x1080, and the projection of all the stars alone.
+// and 1920x1080; the same with the deep star layer at 1920x1080, zoom 1, 4
+// and 15, looking at the Milky Way in Cygnus and in Sagittarius; and the
+// projection of all the stars alone.
 #include <benchmark/benchmark.h>
 
 #include <QGuiApplication>
 
+#include <cmath>
+#include <cstdlib>
+
+#include "app/Constantes.h"
+#include "astro/Coordenadas.h"
+#include "astro/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
+#include "catalogue/EstrellasProfundas.h"
 #include "sky/DibujaCielo.h"
 #include "sky/proyeccion/Proyeccion.h"
 
@@ -59,18 +68,69 @@ Estado TodoEncendido() {
     return e;
 }
 
+// Every label printed when VEDRANO_TODOS_LOS_ROTULOS is set, to count them
+// against the labels that can be read.
+OpcionesDibujo Opciones() {
+    OpcionesDibujo o;
+    o.TodosLosRotulos = std::getenv("VEDRANO_TODOS_LOS_ROTULOS") != nullptr;
+    return o;
+}
+
 void BM_PasadaCompleta(benchmark::State& st) {
     Aplicacion();
     const Catalogos& c = Datos();
     Lienzo l(static_cast<int>(st.range(0)), static_cast<int>(st.range(1)));
     Estado e = TodoEncendido();
     ActualizaCielo(e, c, l);
+    OpcionesDibujo o = Opciones();
     for (auto _ : st) {
-        DibujaCielo(e, c, l);
+        DibujaCielo(e, c, l, o);
         benchmark::DoNotOptimize(l.Imagen().constBits());
     }
+    st.counters["rotulos"] = l.Rotulos().Dibujados();
 }
 BENCHMARK(BM_PasadaCompleta)->Args({1024, 768})->Args({1920, 1080})->Unit(benchmark::kMillisecond);
+
+const EstrellasProfundas& Profundas() {
+    static EstrellasProfundas p;
+    static bool abierto = [] {
+        std::string mensaje;
+        return p.Abre(std::string(VEDRANO_DATOS) + "VDRDATP.DAT", mensaje);
+    }();
+    (void)abierto;
+    return p;
+}
+
+// Every layer and the deep stars, a summer night at Malaga, at a zoom: range(0) the zoom, range(1)
+// 0 for Cygnus (near Deneb), 1 for Sagittarius (the Lagoon Nebula).
+void BM_CapaProfunda(benchmark::State& st) {
+    Aplicacion();
+    const Catalogos& c = Datos();
+    Lienzo l(1920, 1080);
+    Estado e = TodoEncendido();
+    const bool cisne = st.range(1) == 0;
+    e.FechaJuliana = cisne ? 2460880.528 : 2460850.501;
+    ActualizaTiempo(e, c.TablaPlanetas);
+    Vector3f h = EcuatorialAHorizontal(e, cisne ? AngulosAVector(310.35 * GRADO, 45.28 * GRADO)
+                                               : AngulosAVector(270.95 * GRADO, -24.38 * GRADO));
+    e.Direccion = std::atan2(-double{h.x}, double{h.y});
+    if (e.Direccion < 0) e.Direccion += 2 * M_PI;
+    e.Elevacion = std::asin(double{h.z});
+    e.Zoom = static_cast<float>(st.range(0));
+    OpcionesDibujo o = Opciones();
+    o.EstrellasDebiles = true;
+    o.Profundas = &Profundas();
+    ActualizaCielo(e, c, l, o);
+    for (auto _ : st) {
+        DibujaCielo(e, c, l, o);
+        benchmark::DoNotOptimize(l.Imagen().constBits());
+    }
+    st.counters["rotulos"] = l.Rotulos().Dibujados();
+}
+BENCHMARK(BM_CapaProfunda)
+    ->ArgsProduct({{1, 4, 15}, {0, 1}})
+    ->ArgNames({"zoom", "sagitario"})
+    ->Unit(benchmark::kMillisecond);
 
 void BM_ProyeccionEstrellas(benchmark::State& st) {
     const Catalogos& c = Datos();

@@ -143,8 +143,11 @@ def lee_catalogo(ruta):
     if pos + tam * sum(cuentas) != len(datos):
         raise ValueError('%s: el tamaño no cuadra con las cuentas de sus zonas' % ruta)
     zonas = ejes(nivel, 0x7FFFFFFF if tipo == 0 else (1 << 19) - 1)
+    esquinas = triangulos(nivel)
     for zona, cuenta in enumerate(cuentas):
         centro, a0, a1 = zonas[zona]
+        c0, c1, c2 = esquinas[zona]
+        lados = (cruz(c0, c1), cruz(c1, c2), cruz(c2, c0))
         for _ in range(cuenta):
             if tipo == 0:
                 x0, x1, _, mag = struct.unpack_from('<iiBB', datos, pos + 4)
@@ -153,6 +156,10 @@ def lee_catalogo(ruta):
                 x0, x1, mag = con_signo(b & 0xFFFFF, 20), con_signo((b >> 20) & 0xFFFFF, 20), b >> 75
             pos += tam
             v = normaliza(suma(suma(escala(a0, x0), escala(a1, x1)), centro))
+            # A star decoded right lies in its own triangle (up to the
+            # drift of its proper motion from the catalogue's epoch).
+            if min(punto(l, v) for l in lados) < -1e-4:
+                raise ValueError('%s: una estrella cae fuera de su zona %d' % (ruta, zona))
             yield v, (mag_min + mag * mag_rango / mag_pasos) / 1000.0
 
 

@@ -36,20 +36,20 @@ bool EstrellasProfundas::Abre(const std::string& ruta, std::string& mensaje) {
     auto archivo = std::make_unique<plataforma::ArchivoMapeado>();
     std::string error;
     if (!archivo->Abre(ruta, error)) {
-        mensaje = "No se pueden leer las estrellas d\xE9" "biles de " + ruta + ": " + error;
+        mensaje = "No se pueden leer las estrellas débiles de " + ruta + ": " + error;
         return false;
     }
     const unsigned char* d = archivo->Datos();
     const std::size_t tam = archivo->Tamano();
     auto mal = [&](const char* por) {
-        mensaje = "El fichero de estrellas d\xE9" "biles " + ruta + " no es v\xE1lido: " + por;
+        mensaje = "El fichero de estrellas débiles " + ruta + " no es válido: " + por;
         return false;
     };
     if (tam < CABECERA || std::memcmp(d, "VDRP", 4) != 0 || d[4] != 1 || d[5] != 0)
         return mal("no empieza como un fichero de estrellas de este programa");
     const std::size_t nZonas = Entero32(d + 8), nEstrellas = Entero32(d + 12);
     if (nZonas > 100000 || nEstrellas > 50000000 || tam != CABECERA + nZonas * ZONA + nEstrellas * ESTRELLA)
-        return mal("su tama\xF1o no cuadra con sus cuentas");
+        return mal("su tamaño no cuadra con sus cuentas");
     std::vector<ZonaProfunda> zonas(nZonas);
     std::size_t siguiente = 0;
     for (std::size_t i = 0; i < nZonas; ++i) {

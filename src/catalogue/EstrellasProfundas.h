@@ -37,8 +37,9 @@ public:
     EstrellasProfundas();
     ~EstrellasProfundas();
 
-    // Opens the file; false with a Spanish message when it is missing or
-    // not a deep star file of this program (nothing is then drawn).
+    // Opens the file (a UTF-8 path); false with a Spanish message in UTF-8
+    // when it is missing or not a deep star file of this program (nothing
+    // is then drawn).
     bool Abre(const std::string& ruta, std::string& mensaje);
     bool Abierto() const { return estrellas_ != nullptr; }
     const std::vector<ZonaProfunda>& Zonas() const { return zonas_; }

@@ -46,7 +46,7 @@ const std::vector<DescripcionOrden>& Ordenes() {
          "entre comillas o no; mayúsculas y acentos dan igual.\n",
          {OPCION_DATOS}},
         {Orden::Dibuja, "dibuja",
-         "[--config A.ls1] [--datos DIR] [--ancho W] [--alto H] [--todos-los-rotulos] --salida FICHERO",
+         "[--config A.ls1] [--datos DIR] [--ancho W] [--alto H] [--todos-los-rotulos] [--estrellas-debiles] --salida FICHERO",
          "dibuja el cielo de una configuración en una imagen",
          "Dibuja el cielo de una configuración (por omisión Archivo/Inicial.ls1) tal como\n"
          "lo muestra la ventana. La salida es una imagen (.png, .jpg...), una página\n"
@@ -56,6 +56,7 @@ const std::vector<DescripcionOrden>& Ordenes() {
           {"ancho", "W", "ancho de la imagen en píxeles, de 16 a 16384 (1024)"},
           {"alto", "H", "alto de la imagen en píxeles, de 16 a 16384 (768)"},
           {"todos-los-rotulos", nullptr, "escribe todos los rótulos, aunque se tapen unos a otros"},
+          {"estrellas-debiles", nullptr, "añade las estrellas débiles hasta V 10,5 (nivel 7, según el zoom)"},
           {"salida", "FICHERO", "fichero que se escribe"}}},
     };
     return ordenes;
@@ -168,6 +169,7 @@ AnalisisCli AnalizaOrden(const DescripcionOrden& d, const QStringList& argumento
         o.config = valor("config");
         o.salida = valor("salida");
         o.todosLosRotulos = p.isSet(QStringLiteral("todos-los-rotulos"));
+        o.estrellasDebiles = p.isSet(QStringLiteral("estrellas-debiles"));
         for (const char* nombre : {"ancho", "alto"}) {
             if (!p.isSet(QString::fromUtf8(nombre))) continue;
             QString texto = valor(nombre);

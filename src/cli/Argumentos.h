@@ -17,6 +17,7 @@ struct OpcionesCli {
     QString salida;     // dibuja --salida
     int ancho = 1024, alto = 768;
     bool todosLosRotulos = false;  // dibuja --todos-los-rotulos
+    bool estrellasDebiles = false;  // dibuja --estrellas-debiles
     QString lee, escribe, muestras;  // configuracion
     QString categoria;  // lista: the words of the category, joined by blanks
 };

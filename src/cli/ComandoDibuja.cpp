@@ -11,6 +11,7 @@
 
 #include "app/Texto1252.h"
 #include "catalogue/CargaCatalogos.h"
+#include "catalogue/EstrellasProfundas.h"
 #include "cli/CarpetaDatos.h"
 #include "config/ErroresArchivo.h"
 #include "config/EscrituraSegura.h"
@@ -84,6 +85,16 @@ int ComandoDibuja(int argc, char** argv, const OpcionesCli& o) {
     Lienzo lienzo(o.ancho, o.alto);
     OpcionesDibujo opciones;
     opciones.TodosLosRotulos = o.todosLosRotulos;
+    EstrellasProfundas profundas;
+    if (o.estrellasDebiles) {
+        std::string mensaje;
+        if (!profundas.Abre(*datos + "VDRDATP.DAT", mensaje)) {
+            std::cerr << "vedrano-cli dibuja: " << mensaje << "\n";
+            return 1;
+        }
+        opciones.EstrellasDebiles = true;
+        opciones.Profundas = &profundas;
+    }
     ActualizaCielo(e, catalogos, lienzo, opciones);
     QByteArray bytes;
     if (!Codifica(lienzo.Imagen(), o.salida, bytes)) {

@@ -68,6 +68,7 @@ void DibujaCapas(Contexto& x) {
     if (Encendido(s.Eclip)) DibujaEcliptica(x);
     if (e.NivelConstelaciones > 0) DibujaConstelaciones(x);
     if (e.NivelEstrellas > 0) DibujaEstrellas(x);
+    DibujaEstrellasProfundas(x);
     if (Encendido(s.Messi)) DibujaMessier(x);
     if (Encendido(s.Galax)) DibujaGalaxias(x);
     const Cuentas& t = c.TablasCuentas;

@@ -42,6 +42,10 @@ void DibujaHorizonte(Contexto& x);
 void DibujaEcliptica(Contexto& x);
 void DibujaConstelaciones(Contexto& x);
 void DibujaEstrellas(Contexto& x);
+// The faint stars of the deep catalogue, when the options ask for them.
+void DibujaEstrellasProfundas(Contexto& x);
+// The faintest magnitude of the deep star layer at a zoom.
+double MagnitudLimiteProfunda(double zoom);
 void DibujaMessier(Contexto& x);
 void DibujaGalaxias(Contexto& x);
 void DibujaNebulosas(Contexto& x, const std::vector<ObjetoProfundo>& tabla, const TablaCuentas& cuentas,
