@@ -13,6 +13,6 @@ valgrind --tool=callgrind --callgrind-out-file="$sal/cg" --toggle-collect='vedra
   --benchmark_repetitions=1 >"$sal/log" 2>&1
 total=$(callgrind_annotate "$sal/cg" | awk '/PROGRAM TOTALS/ {gsub(",", "", $1); print $1}')
 previa=$(callgrind_annotate --inclusive=yes "$sal/cg" | awk '/vedrano::ActualizaCielo\(/ {gsub(",", "", $1); print $1; exit}')
-pasadas=$(awk '/^BM_/ {print $NF}' "$sal/log" | tail -1)
+pasadas=$(awk '/^BM_/ {print $6}' "$sal/log" | tail -1)
 echo "$filtro: $(( (total - ${previa:-0}) / pasadas )) instrucciones por pasada ($pasadas pasadas medidas)"
 rm -rf "$sal"

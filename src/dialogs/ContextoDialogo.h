@@ -9,6 +9,7 @@
 #include "app/Estado.h"
 #include "app/InterfazMensajes.h"
 #include "catalogue/Catalogos.h"
+#include "sky/OpcionesDibujo.h"
 
 namespace vedrano {
 
@@ -22,6 +23,7 @@ struct ContextoDialogo {
     std::function<void(int)> Ayuda;            // opens the help at a topic number
     std::function<void()> ArrancaTiempoReal;   // the main window's real-time clock on
     std::function<void()> ParaTiempoReal;      // and off
+    OpcionesDibujo* opciones = nullptr;        // program preferences of the picture (none: not offered)
 };
 
 // Shows a dialog modally, centred on the main window.

@@ -46,6 +46,8 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
     nuevoSpin(estrellas->contenido(), 32, e.NivelEstrellas);
     idEstrellas_ = nuevasOpciones(estrellas->contenido(), {"Sin identificar", "C\xF3" "digo", "Nombre"},
                                   e.IdEstrellas);
+    // Program preferences, not items of a configuration.
+    if (ctx.opciones) nuevaPreferencia(estrellas->contenido(), "Estrellas d\xE9" "biles", ctx.opciones->EstrellasDebiles);
 
     auto* constelaciones = new Grupo("Constelaciones");
     nuevoSpin(constelaciones->contenido(), 33, e.NivelConstelaciones);
@@ -108,6 +110,7 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
     nuevaCasilla(referencias->contenido(), "A.R./DEC 15\xBA", s.ARDEC15);
     nuevaCasilla(referencias->contenido(), "A.R./DEC 30\xBA", s.ARDEC30);
     nuevaCasilla(referencias->contenido(), "Via L\xE1" "ctea", s.ViaLa);
+    if (ctx.opciones) nuevaPreferencia(referencias->contenido(), "Todos los r\xF3tulos", ctx.opciones->TodosLosRotulos);
 
     auto* columna1 = new QVBoxLayout;
     columna1->addWidget(estrellas);
@@ -133,6 +136,15 @@ Casilla* Objetos::nuevaCasilla(QBoxLayout* donde, const std::string& textoCp1252
     auto* c = new Casilla(ctx_.e, textoCp1252);
     c->setMarcada(campo != 0);
     connect(c, &Casilla::cambiada, this, [&campo](bool si) { campo = si ? 1 : 0; });
+    donde->addWidget(c);
+    casillas_.push_back(c);
+    return c;
+}
+
+Casilla* Objetos::nuevaPreferencia(QBoxLayout* donde, const std::string& textoCp1252, bool& campo) {
+    auto* c = new Casilla(ctx_.e, textoCp1252);
+    c->setMarcada(campo);
+    connect(c, &Casilla::cambiada, this, [&campo](bool si) { campo = si; });
     donde->addWidget(c);
     casillas_.push_back(c);
     return c;

@@ -35,6 +35,7 @@ public:
 private:
     Casilla* nuevaCasilla(QBoxLayout* donde, const std::string& textoCp1252, int16_t& campo);
     controles::Spin* nuevoSpin(QBoxLayout* donde, int indice, int16_t& campo);
+    Casilla* nuevaPreferencia(QBoxLayout* donde, const std::string& textoCp1252, bool& campo);
     std::vector<Casilla*> nuevasOpciones(QBoxLayout* donde, const std::vector<std::string>& textosCp1252,
                                          int16_t& campo);
 

@@ -52,7 +52,7 @@ Cielo::Cielo(Estado& e, const Catalogos& c, DialogosCielo dialogos)
       c_(c),
       dialogos_(std::move(dialogos)),
       mensajes_(e, this),
-      contexto_{e, c, mensajes_, this, {}, {}, {}, {}, {}} {
+      contexto_{e, c, mensajes_, this, {}, {}, {}, {}, {}, nullptr} {
     setWindowTitle("VEDRANO");
     setFont(controles::FuenteControles());
     contexto_.ActualizaCielo = [this] { ActualizaCielo(); };
@@ -78,6 +78,7 @@ Cielo::~Cielo() { e_.Sujecion = e_.Enganche = false; }
 
 void Cielo::Construye() {
     vista_ = new VistaCielo(e_, c_, mensajes_, this);
+    contexto_.opciones = &vista_->Opciones();
     connect(vista_, &VistaCielo::Dibujado, this, &Cielo::RefrescaCampos);
     connect(vista_, &VistaCielo::VistaCentrada, this, [this] {
         RefrescaCampos();

@@ -21,15 +21,28 @@ VistaCielo::VistaCielo(Estado& e, const Catalogos& c, InterfazMensajes& m, QWidg
 
 void VistaCielo::ActualizaCielo() {
     listo_ = true;
-    Protegido([this] { vedrano::ActualizaCielo(e_, c_, lienzo_); });
+    Protegido([this] { vedrano::ActualizaCielo(e_, c_, lienzo_, PreparaOpciones()); });
 }
 
 void VistaCielo::DibujaCielo() {
     if (!listo_) return;  // nothing is drawn before the catalogues and the configuration are in
     Protegido([this] {
         AjustaEscalaLienzo(e_, lienzo_);
-        vedrano::DibujaCielo(e_, c_, lienzo_);
+        vedrano::DibujaCielo(e_, c_, lienzo_, PreparaOpciones());
     });
+}
+
+const OpcionesDibujo& VistaCielo::PreparaOpciones() {
+    if (opciones_.EstrellasDebiles && !profundasProbadas_) {
+        // Mapped, not read: opening costs only the file's zone table.
+        profundasProbadas_ = true;
+        std::string mensaje;
+        if (profundas_.Abre(e_.DirDatos + "VDRDATP.DAT", mensaje))
+            opciones_.Profundas = &profundas_;
+        else
+            m_.Mensaje(A1252(mensaje), "Estrellas d\xE9" "biles", 1, 1);
+    }
+    return opciones_;
 }
 
 void VistaCielo::Protegido(const std::function<void()>& pasada) {

@@ -11,7 +11,9 @@
 #include "app/Estado.h"
 #include "app/InterfazMensajes.h"
 #include "catalogue/Catalogos.h"
+#include "catalogue/EstrellasProfundas.h"
 #include "sky/Lienzo.h"
+#include "sky/OpcionesDibujo.h"
 #include "sky/apunta/Apunta.h"
 
 namespace vedrano {
@@ -26,6 +28,8 @@ public:
     // The pass alone, with the values already set.
     void DibujaCielo();
     const Lienzo& Canvas() const { return lienzo_; }
+    // The program preferences the picture is drawn with.
+    OpcionesDibujo& Opciones() { return opciones_; }
     // Screen pixel to the picture's user scale.
     QPointF AUsuario(const QPointF& pixel) const;
 
@@ -46,6 +50,8 @@ protected:
 private:
     void DibujaMarca(const QPointF& pixel);
     void Protegido(const std::function<void()>& pasada);
+    // Opens the deep star catalogue the first time the layer is asked for.
+    const OpcionesDibujo& PreparaOpciones();
     void InformaCursor(const QPointF& pixel);
     // The view turned or zoomed by the mouse: redraw and tell the panels.
     void VistaMovida();
@@ -54,6 +60,9 @@ private:
     const Catalogos& c_;
     InterfazMensajes& m_;
     Lienzo lienzo_;
+    OpcionesDibujo opciones_;
+    EstrellasProfundas profundas_;
+    bool profundasProbadas_ = false;
     QPointF marca_;
     // The left press of a possible drag: where it went down, the horizon
     // place gripped there, and whether it has become a drag.
