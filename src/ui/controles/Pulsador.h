@@ -24,6 +24,7 @@ public:
     // (0 restores them).
     void setSonidoUnico(int numero) { sonidoUnico_ = numero; }
     QSize sizeHint() const override;
+    QString nombreAccesible() const override { return etiqueta(); }
 
 signals:
     void accionado();
@@ -32,6 +33,7 @@ protected:
     void pinta(QPainter& p) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent* ev) override;
+    void keyPressEvent(QKeyEvent* ev) override;
 
 private:
     bool pulsado_ = false;
