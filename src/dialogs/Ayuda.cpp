@@ -20,7 +20,8 @@ QString PaginaAyuda(int t) {
         {tema::INDICE, "indice"},     {tema::GENERAL, "general"},   {tema::CIELO, "cielo"},
         {tema::CARGAGUAR, "cargaguar"}, {tema::PERSONAL, "personal"}, {tema::LOCALI, "locali"},
         {tema::HORA, "hora"},         {tema::OBJETOS, "objetos"},   {tema::BUSCAR, "buscar"},
-        {tema::IMPRESOR, "impresor"}, {tema::ANIMAR, "animar"},
+        {tema::IMPRESOR, "impresor"}, {tema::ANIMAR, "animar"},     {tema::TECLADO, "teclado"},
+        {tema::ORDENES, "ordenes"},   {tema::ARCHIVOS, "archivos"},
     };
     auto it = paginas.find(t);
     return QStringLiteral("qrc:/ayuda/%1.html").arg(QString::fromLatin1(it == paginas.end() ? "indice" : it->second));

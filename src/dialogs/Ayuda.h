@@ -25,6 +25,9 @@ constexpr int OBJETOS = 1080;
 constexpr int BUSCAR = 1090;
 constexpr int IMPRESOR = 1100;
 constexpr int ANIMAR = 1110;
+constexpr int TECLADO = 1120;
+constexpr int ORDENES = 1130;   // the command-line tool
+constexpr int ARCHIVOS = 1140;  // where the program keeps its files
 }  // namespace tema
 
 // The page of a topic ("qrc:/ayuda/....html"); an unknown topic gives the
