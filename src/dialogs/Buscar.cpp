@@ -102,6 +102,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     }
     // What the search box finds across every list while the index is shown.
     hallados_ = new QListWidget(this);
+    hallados_->setAccessibleName(QStringLiteral("Objetos hallados"));
     VisteLista(hallados_, columnas);
     hallados_->hide();
     pila->addWidget(hallados_, 0, 0);
