@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageWriter>
+#include <QPainter>
+#include <QSvgGenerator>
 #include <filesystem>
 #include <iostream>
 #include <string>
@@ -45,6 +47,28 @@ bool Codifica(const QImage& imagen, const QString& nombre, QByteArray& bytes) {
     return escritor.write(imagen);
 }
 
+// The sky as an SVG drawing: every line, disc and label a vector element.
+QByteArray Svg(const Estado& estado, const Catalogos& c, int ancho, int alto, const OpcionesDibujo& o) {
+    Estado e = estado;
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QSvgGenerator svg;
+    svg.setOutputDevice(&buffer);
+    svg.setSize(QSize(ancho, alto));
+    svg.setViewBox(QRect(0, 0, ancho, alto));
+    svg.setResolution(96);  // one pixel a CSS pixel
+    svg.setTitle(QStringLiteral("Cielo"));
+    svg.setDescription(QStringLiteral("VEDRANO"));
+    QPainter p(&svg);
+    {
+        Lienzo lienzo(p, ancho, alto, false);
+        ActualizaCielo(e, c, lienzo, o);
+    }
+    p.end();
+    return bytes;
+}
+
 }  // namespace
 
 int ComandoDibuja(int argc, char** argv, const OpcionesCli& o) {
@@ -82,7 +106,6 @@ int ComandoDibuja(int argc, char** argv, const OpcionesCli& o) {
         return 0;
     }
 
-    Lienzo lienzo(o.ancho, o.alto);
     OpcionesDibujo opciones;
     opciones.TodosLosRotulos = o.todosLosRotulos;
     EstrellasProfundas profundas;
@@ -95,11 +118,16 @@ int ComandoDibuja(int argc, char** argv, const OpcionesCli& o) {
         opciones.EstrellasDebiles = true;
         opciones.Profundas = &profundas;
     }
-    ActualizaCielo(e, catalogos, lienzo, opciones);
     QByteArray bytes;
-    if (!Codifica(lienzo.Imagen(), o.salida, bytes)) {
-        std::cerr << "vedrano-cli dibuja: formato de imagen desconocido: " << salida << "\n";
-        return 1;
+    if (o.salida.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive)) {
+        bytes = Svg(e, catalogos, o.ancho, o.alto, opciones);
+    } else {
+        Lienzo lienzo(o.ancho, o.alto);
+        ActualizaCielo(e, catalogos, lienzo, opciones);
+        if (!Codifica(lienzo.Imagen(), o.salida, bytes)) {
+            std::cerr << "vedrano-cli dibuja: formato de imagen desconocido: " << salida << "\n";
+            return 1;
+        }
     }
     if (int error = EscribeArchivoEntero(salida, std::string_view(bytes.constData(), bytes.size())); error != 0) {
         std::cerr << "vedrano-cli dibuja: no se puede escribir la imagen en " << salida << ": "

@@ -13,7 +13,19 @@ QColor ColorVB(unsigned long bgr) {
                   static_cast<int>((bgr >> 16) & 0xFF));
 }
 
+QColor ColorParaTinta(const QColor& c) {
+    QColor h = c.toHsl();
+    h.setHsl(h.hslHue(), h.hslSaturation(), 255 - h.lightness());
+    return h.toRgb();
+}
+
 namespace {
+
+QFont FuenteCielo() {
+    QFont f("DejaVu Sans");
+    f.setPixelSize(11);
+    return f;
+}
 
 // Symbols larger than this radius in pixels are drawn directly, not kept
 // as ready-made images.
@@ -35,11 +47,24 @@ QImage ImagenVacia(int ancho, int alto) {
 
 }  // namespace
 
-Lienzo::Lienzo(int ancho, int alto) {
-    QFont f("DejaVu Sans");
-    f.setPixelSize(11);
-    Redimensiona(ancho, alto);
-    FijaFuente(f);
+Lienzo::Lienzo(int ancho, int alto, double proporcion) {
+    Redimensiona(ancho, alto, proporcion);
+    FijaFuente(FuenteCielo());
+}
+
+Lienzo::Lienzo(QPainter& pintor, int ancho, int alto, bool paraTinta)
+    : pintor_(&pintor), vectorial_(true), paraTinta_(paraTinta), ancho_px_(ancho), alto_px_(alto) {
+    PreparaPintor();
+    Escala(izquierda_, superior_, ancho_, alto_);
+    FijaFuente(FuenteCielo());
+    Cls();
+}
+
+void Lienzo::PreparaPintor() {
+    pintor_->setRenderHint(QPainter::Antialiasing, true);
+    pintor_->setRenderHint(QPainter::TextAntialiasing, true);
+    pintor_->setFont(fuente_);
+    clavePuesta_ = {0, 0, -1};
 }
 
 const QImage& Lienzo::Imagen() const {
@@ -47,15 +72,20 @@ const QImage& Lienzo::Imagen() const {
     return imagen_;
 }
 
-void Lienzo::Redimensiona(int ancho, int alto) {
+void Lienzo::Redimensiona(int ancho, int alto, double proporcion) {
     pendientes_.clear();
-    pintor_.reset();
-    imagen_ = QImage(ancho, alto, QImage::Format_RGB32);
-    pintor_ = std::make_unique<QPainter>(&imagen_);
-    pintor_->setRenderHint(QPainter::Antialiasing, true);
-    pintor_->setRenderHint(QPainter::TextAntialiasing, true);
-    pintor_->setFont(fuente_);
-    clavePuesta_ = {0, 0, -1};
+    propio_.reset();
+    ancho_px_ = ancho;
+    alto_px_ = alto;
+    // Device pixels behind each logical one; the painter keeps drawing in
+    // logical pixels and Qt scales lines, dots and text sharply.
+    imagen_ = QImage(static_cast<int>(std::lround(ancho * proporcion)),
+                     static_cast<int>(std::lround(alto * proporcion)), QImage::Format_RGB32);
+    imagen_.setDevicePixelRatio(proporcion);
+    propio_ = std::make_unique<QPainter>(&imagen_);
+    pintor_ = propio_.get();
+    directo_ = imagen_.width() == ancho && imagen_.height() == alto;
+    PreparaPintor();
     // The painter draws into this buffer; stamps are written into it too.
     pixeles_ = imagen_.bits();
     linea_ = imagen_.bytesPerLine();
@@ -68,20 +98,24 @@ void Lienzo::Escala(float izquierda, float superior, float ancho, float alto) {
     superior_ = superior;
     ancho_ = ancho;
     alto_ = alto;
-    sx_ = imagen_.width() / static_cast<double>(ancho_);
-    sy_ = imagen_.height() / static_cast<double>(alto_);
+    sx_ = ancho_px_ / static_cast<double>(ancho_);
+    sy_ = alto_px_ / static_cast<double>(alto_);
 }
 
 double Lienzo::PixelesPorUnidad() const { return std::fabs(sx_); }
 
 void Lienzo::Cls() {
     pendientes_.clear();  // drawn before the clear, they would be erased
+    actualX_ = actualY_ = 0;
+    if (vectorial_) {
+        pintor_->fillRect(QRectF(0, 0, ancho_px_, alto_px_), Tono(fondo_));
+        return;
+    }
     const QRgb fondo = 0xFF000000u | fondo_.rgb();
     for (int y = 0; y < imagen_.height(); ++y) {
         auto* fila = reinterpret_cast<QRgb*>(pixeles_ + y * linea_);
         std::fill(fila, fila + imagen_.width(), fondo);
     }
-    actualX_ = actualY_ = 0;
 }
 
 void Lienzo::FijaFondo(const QColor& c) {
@@ -94,7 +128,7 @@ void Lienzo::PonPluma(const ClavePluma& k) const {
     uint64_t h = uint64_t(k.color) | uint64_t(k.ancho & 0xFFFF) << 32 | uint64_t(k.estilo & 0xFF) << 48;
     auto it = plumas_.find(h);
     if (it == plumas_.end()) {
-        QPen p{QColor::fromRgba(k.color)};
+        QPen p{Tono(QColor::fromRgba(k.color))};
         p.setWidthF(k.ancho);
         p.setCapStyle(Qt::RoundCap);
         // A one-pixel pen is cosmetic: the painter then strokes it with its
@@ -116,7 +150,7 @@ void Lienzo::Vacia() const {
 }
 
 bool Lienzo::FueraDeImagen(const QPointF& a, const QPointF& b, double m) const {
-    const double w = imagen_.width() + m, h = imagen_.height() + m;
+    const double w = ancho_px_ + m, h = alto_px_ + m;
     return (a.x() < -m && b.x() < -m) || (a.x() > w && b.x() > w) || (a.y() < -m && b.y() < -m) ||
            (a.y() > h && b.y() > h);
 }
@@ -173,6 +207,15 @@ void Lienzo::Punto(double x, double y) {
     if (estilo_ == 5 || soloMedida_) return;
     Vacia();
     QPointF c = APixel(x, y);
+    if (!directo_) {  // a disc of its own on a vector device or a hi-DPI image
+        pintor_->setPen(Qt::NoPen);
+        pintor_->setBrush(Tono(tinta_));
+        const double r = anchoTrazo_ <= 1 ? 0.5 : anchoTrazo_ / 2.0;
+        pintor_->drawEllipse(c, r, r);
+        pintor_->setBrush(Qt::NoBrush);
+        clavePuesta_ = {0, 0, -1};
+        return;
+    }
     const double medio = anchoTrazo_ / 2.0 + 1;
     Estampa1(SpritePunto(anchoTrazo_, tinta_.rgb()), static_cast<int>(std::floor(c.x() - medio + 0.5)),
              static_cast<int>(std::floor(c.y() - medio + 0.5)));
@@ -227,7 +270,7 @@ std::size_t Lienzo::HashFigura::operator()(const ClaveFigura& k) const {
 
 const Lienzo::Estampa* Lienzo::SpriteFigura(const QPointF& c, double rx, double ry, double inicio, double fin,
                                             bool arco, bool caja) {
-    if (rx > RADIO_FIGURA_MAXIMO || ry > RADIO_FIGURA_MAXIMO) return nullptr;
+    if (!directo_ || rx > RADIO_FIGURA_MAXIMO || ry > RADIO_FIGURA_MAXIMO) return nullptr;
     const double fx = std::floor((c.x() - std::floor(c.x())) * FASES) / FASES;
     const double fy = std::floor((c.y() - std::floor(c.y())) * FASES) / FASES;
     const ClaveFigura clave{static_cast<float>(rx), static_cast<float>(ry), static_cast<float>(inicio),
@@ -262,7 +305,7 @@ void Lienzo::Caja(double x1, double y1, double x2, double y2, bool relleno) {
         return;
     }
     PonPluma(Clave());
-    pintor_->setBrush(relleno ? QBrush(tinta_) : Qt::NoBrush);
+    pintor_->setBrush(relleno ? QBrush(Tono(tinta_)) : Qt::NoBrush);
     pintor_->drawRect(r);
     pintor_->setBrush(Qt::NoBrush);
 }
@@ -282,7 +325,7 @@ void Lienzo::Circulo(double x, double y, double r, double aspecto, double inicio
         return;
     }
     PonPluma(Clave());
-    pintor_->setBrush(relleno ? QBrush(*relleno) : Qt::NoBrush);
+    pintor_->setBrush(relleno ? QBrush(Tono(*relleno)) : Qt::NoBrush);
     DibujaFigura(*pintor_, c, rx, ry, inicio, fin, arco, false);
     pintor_->setBrush(Qt::NoBrush);
 }
@@ -298,7 +341,7 @@ void Lienzo::Fase(double x, double y, double r, double iluminada, double haciaSo
     // The lit limb faces the Sun; screen y grows downward.
     pintor_->rotate(-haciaSol * 180 / M_PI);
     pintor_->setPen(Qt::NoPen);
-    pintor_->setBrush(sombra);
+    pintor_->setBrush(Tono(sombra));
     pintor_->drawEllipse(QPointF(0, 0), rp, rp);
     // Lit region: the half disc toward the Sun plus or minus a half ellipse
     // whose semi-axis is |1 - 2 f| of the radius (the terminator).
@@ -313,7 +356,7 @@ void Lienzo::Fase(double x, double y, double r, double iluminada, double haciaSo
     else
         limbo.arcTo(terminador, 270, -180);  // gibbous: bulge away from the Sun
     limbo.closeSubpath();
-    pintor_->setBrush(luz);
+    pintor_->setBrush(Tono(luz));
     pintor_->drawPath(limbo);
     pintor_->restore();
 }
@@ -359,9 +402,28 @@ void Lienzo::Escribe(std::string_view cp1252, float prioridad) {
     actualY_ += altoLinea_ / sy_;
     std::size_t fin = cp1252.find_last_not_of(' ');
     if (fin == std::string_view::npos) return;  // blanks draw nothing
+    std::string_view texto = cp1252.substr(0, fin + 1);
+    if (!directo_) {
+        // Painted each time, as text of the device.
+        const QString t = QString::fromUtf8(DesdeA1252(std::string(texto)));
+        const QRect caja(static_cast<int>(std::floor(p.x())), static_cast<int>(std::floor(p.y())),
+                         static_cast<int>(std::ceil(QFontMetricsF(fuente_).horizontalAdvance(t))),
+                         static_cast<int>(std::ceil(altoLinea_)));
+        if (soloMedida_) {
+            rotulos_.Mide(caja, prioridad);
+            return;
+        }
+        const bool visible = caja.intersects(QRect(0, 0, ancho_px_, alto_px_));
+        if (!rotulos_.Toca(visible) || !visible) return;
+        Vacia();
+        pintor_->setPen(Tono(tinta_));
+        clavePuesta_ = {0, 0, -1};
+        pintor_->drawText(QPointF(p.x(), p.y() + ascenso_), t);
+        return;
+    }
     const double px = std::floor(p.x());
     const int fase = static_cast<int>((p.x() - px) * FASES_TEXTO);
-    const Estampa& t = ImagenRotulo(cp1252.substr(0, fin + 1), tinta_.rgb(), fase);
+    const Estampa& t = ImagenRotulo(texto, tinta_.rgb(), fase);
     // Glyphs sit on a whole-pixel baseline, as the painter places them.
     const int x = static_cast<int>(px);
     const int y = static_cast<int>(std::lround(p.y() + ascenso_) - std::lround(ascenso_ - t.dy)) - t.dy;
