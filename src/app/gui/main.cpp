@@ -7,6 +7,7 @@
 #include "app/Texto1252.h"
 #include "catalogue/CargaCatalogos.h"
 #include "config/LeeConfiguracion.h"
+#include "config/Preferencias.h"
 #include "dialogs/Mensajes.h"
 #include "dialogs/MensajesVentana.h"
 #include "platform/CarpetaPrograma.h"
@@ -26,6 +27,8 @@ int main(int argc, char** argv) {
     QPointer<QWidget> careta = MuestraCareta(e);
 
     PreparaCarpetas(e, plataforma::CarpetaPrograma(argv[0]), plataforma::CarpetaSistema());
+    e.ArchivoPreferencias = RutaPreferencias();
+    e.Pref = LeePreferencias(e.ArchivoPreferencias);
 
     plataforma::PantallaQt pantalla;
     MensajesVentana inicio(e, nullptr);

@@ -37,7 +37,7 @@ protected:
     // Leaving the control gives the default pointer back.
     void leaveEvent(QEvent*) override;
     virtual void pinta(QPainter& p) = 0;
-    // The label of this control from the label table.
+    // The label of this control: its own, or else the label table's entry.
     QString etiqueta() const;
     void fijaCursor(int16_t numero) { FijaCursor(e_, this, numero); }
     // Sets `numero` only when another pointer is the current one.
@@ -45,6 +45,7 @@ protected:
 
     Estado& e_;
     const int indice_;
+    QString rotulo_;  // for controls beyond the label table (program preferences)
 };
 
 }  // namespace vedrano::controles
