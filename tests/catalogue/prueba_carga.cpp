@@ -146,9 +146,11 @@ TEST_F(Carpeta, SinVDRDAT1SeAvisaYElRestoCarga) {
     CargaCatalogos(VEDRANO_DATOS, *completo, sinAvisos);
     Carga();
 
-    // The open, then the read and the close of a file that is not open.
-    EXPECT_EQ(avisos.Textos(),
-              (std::vector<std::string>{"ERROR CTA53: No existe el fichero", "ERROR CTA52", "ERROR CTA52"}));
+    // The open, then the read and the close of a file that is not open;
+    // each names the file.
+    const std::string ruta = "\r\n" + (dir / "VDRDAT1.DAT").string();
+    EXPECT_EQ(avisos.Textos(), (std::vector<std::string>{"ERROR CTA53: No existe el fichero" + ruta,
+                                                         "ERROR CTA52" + ruta, "ERROR CTA52" + ruta}));
     for (const auto& [texto, titulo] : avisos.recibidos) EXPECT_EQ(titulo, "Cargando datos iniciales");
     EXPECT_EQ(c->TablaEstrellas[0].Magnitud, 0.0f);
     EXPECT_EQ(c->TablaEstrellas[26519].Direccion.z, 0.0f);
@@ -181,7 +183,8 @@ TEST_F(Carpeta, FicherosCortosOEstropeadosNoRompenNada) {
             ASSERT_NO_THROW(Carga()) << f.filename();
             EXPECT_LE(c->Listas.Estrellas.size(), 1483u);
             EXPECT_LE(c->Listas.Galaxias.size(), 1234u);
-            for (const std::string& a : avisos.Textos()) EXPECT_EQ(a, "ERROR CTA9") << f.filename();
+            for (const std::string& a : avisos.Textos())
+                EXPECT_EQ(a, "ERROR CTA9\r\n" + f.string()) << f.filename();
         }
         Escribe(f.filename().string(), original);
     }
