@@ -35,12 +35,6 @@ public:
     }
 };
 
-// DirArchivo and name of a path given on the command line.
-std::string Carpeta(const std::filesystem::path& ruta) {
-    std::string c = ruta.parent_path().string();
-    return c.empty() ? "./" : c + "/";
-}
-
 void Lista(Estado& e) {
     for (int linea = 1; linea <= 4; ++linea) {
         int numero = 1;
@@ -81,7 +75,7 @@ int ComandoConfiguracion(int argc, char** argv) {
     }
     Estado e;
     std::filesystem::path entrada(lee);
-    e.DirArchivo = Carpeta(entrada);
+    e.DirArchivo = CarpetaDe(entrada);
     ResultadoConfiguracion r = LeeConfiguracion(e, A1252(entrada.filename().string()), ui);
     // An overflow is not shown by the reader; the command line still says so.
     if (r.error == ErrDesbordamiento) ui.Mensaje(r.texto, A1252("Cargar configuración"), 1, 1);
@@ -89,7 +83,7 @@ int ComandoConfiguracion(int argc, char** argv) {
     if (r.error != 0) return 1;
     if (!escribe.empty()) {
         std::filesystem::path salida(escribe);
-        e.DirArchivo = Carpeta(salida);
+        e.DirArchivo = CarpetaDe(salida);
         ResultadoConfiguracion w = EscribeConfiguracion(e, A1252(salida.filename().string()), ui, false);
         if (!w.escrito) return 1;
     }

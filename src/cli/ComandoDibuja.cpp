@@ -78,7 +78,7 @@ int ComandoDibuja(int argc, char** argv) {
     namespace fs = std::filesystem;
     fs::path archivo = config.empty() ? fs::path(datos).parent_path().parent_path() / "Archivo" / "Inicial.ls1"
                                       : fs::path(config);
-    e.DirArchivo = archivo.parent_path().string() + "/";
+    e.DirArchivo = CarpetaDe(archivo);
     e.DirDatos = datos;
     ResultadoConfiguracion r = LeeConfiguracion(e, A1252(archivo.filename().string()), consola);
     if (r.error == 53 && !config.empty()) return 1;

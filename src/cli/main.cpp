@@ -2,6 +2,7 @@
 #include <cstring>
 #include <iostream>
 
+#include "app/ErrorEjecucion.h"
 #include "cli/ComandoCalcula.h"
 #include "cli/ComandoDibuja.h"
 #include "cli/ComandoConfiguracion.h"
@@ -20,13 +21,7 @@ void Uso() {
                  "                          dibuja el cielo de una configuración en una imagen\n";
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    if (argc < 2 || std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0) {
-        Uso();
-        return argc < 2 ? 2 : 0;
-    }
+int Orden(int argc, char** argv) {
     if (std::strcmp(argv[1], "calcula") == 0) return vedrano::ComandoCalcula(argc, argv);
     if (std::strcmp(argv[1], "configuracion") == 0) return vedrano::ComandoConfiguracion(argc, argv);
     if (std::strcmp(argv[1], "lista") == 0) return vedrano::ComandoLista(argc, argv);
@@ -34,4 +29,23 @@ int main(int argc, char** argv) {
     std::cerr << "vedrano-cli: orden desconocida: " << argv[1] << "\n";
     Uso();
     return 2;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 2 || std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0) {
+        Uso();
+        return argc < 2 ? 2 : 0;
+    }
+    // The last trap: a run-time error no order caught ends the run with its
+    // number, never with an abort.
+    try {
+        return Orden(argc, argv);
+    } catch (const vedrano::ErrorEjecucion& error) {
+        std::cerr << "vedrano-cli " << argv[1] << ": ERROR " << error.numero() << "\n";
+    } catch (const std::exception& error) {
+        std::cerr << "vedrano-cli " << argv[1] << ": error: " << error.what() << "\n";
+    }
+    return 1;
 }

@@ -7,6 +7,14 @@
 
 namespace vedrano {
 
+namespace {
+
+// The widest dot kept as a sprite: the brightest star at the closest zoom
+// is about a dozen pixels.
+constexpr int ANCHO_MAXIMO_SPRITE = 64;
+
+}  // namespace
+
 QColor ColorVB(unsigned long bgr) {
     return QColor(static_cast<int>(bgr & 0xFF), static_cast<int>((bgr >> 8) & 0xFF),
                   static_cast<int>((bgr >> 16) & 0xFF));
@@ -88,6 +96,15 @@ void Lienzo::Punto(double x, double y) {
     actualY_ = y;
     if (estilo_ == 5) return;
     QPointF c = APixel(x, y);
+    if (anchoTrazo_ > ANCHO_MAXIMO_SPRITE) {
+        // No star is this wide; a damaged magnitude must not leave a
+        // pre-rendered dot of its width (up to 32767 pixels a side) behind.
+        pintor_->setPen(Qt::NoPen);
+        pintor_->setBrush(tinta_);
+        pintor_->drawEllipse(c, anchoTrazo_ / 2.0, anchoTrazo_ / 2.0);
+        pintor_->setBrush(Qt::NoBrush);
+        return;
+    }
     const QPixmap& s = SpritePunto(anchoTrazo_, tinta_.rgb());
     double medio = anchoTrazo_ / 2.0 + 1;
     pintor_->drawPixmap(QPointF(std::floor(c.x() - medio + 0.5), std::floor(c.y() - medio + 0.5)), s);
