@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
 """Builds VEDRANO's catalogue files from the staged open catalogues.
 
-    python3 tools/genera_datos.py FUENTES [SALIDA]
+    python3 tools/genera_datos.py [FUENTES [SALIDA]]
 
-FUENTES is the folder of the source catalogues, SALIDA the folder that
-receives the files (Datos/ by default). Same sources, same bytes.
+FUENTES is the folder of the source catalogues (tools/fuentes/ of this
+tree by default), SALIDA the folder that receives the files (Datos/ of this
+tree by default). Same sources, same bytes.
 """
 import importlib.util
 import os
@@ -44,12 +45,17 @@ def genera(fuentes, salida):
         planetas.escribe_vdrdatf(fuentes, salida)
 
 
+HERRAMIENTAS = os.path.dirname(os.path.abspath(__file__))
+FUENTES = os.path.join(HERRAMIENTAS, 'fuentes')
+DATOS = os.path.join(os.path.dirname(HERRAMIENTAS), 'Datos')
+
+
 def main(argumentos):
-    if len(argumentos) not in (2, 3):
-        print('Uso: genera_datos.py CARPETA_FUENTES [CARPETA_SALIDA]', file=sys.stderr)
+    if len(argumentos) > 3:
+        print('Uso: genera_datos.py [CARPETA_FUENTES [CARPETA_SALIDA]]', file=sys.stderr)
         return 2
-    fuentes = argumentos[1]
-    salida = argumentos[2] if len(argumentos) == 3 else 'Datos'
+    fuentes = argumentos[1] if len(argumentos) > 1 else FUENTES
+    salida = argumentos[2] if len(argumentos) > 2 else DATOS
     if not os.path.isdir(fuentes):
         print('No existe la carpeta de fuentes: %s' % fuentes, file=sys.stderr)
         return 1

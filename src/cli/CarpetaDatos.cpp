@@ -1,10 +1,30 @@
 #include "cli/CarpetaDatos.h"
 
+#include <QFile>
+#include <filesystem>
+#include <iostream>
+
+#include "app/Texto1252.h"
 #include "platform/CarpetaPrograma.h"
 
 namespace vedrano {
 
-std::string CarpetaDatosPorDefecto(const char* argv0) { return plataforma::CarpetaPrograma(argv0) + "Datos/"; }
+std::optional<std::string> CarpetaDatos(const QString& pedida, const char* orden) {
+    std::string carpeta = pedida.isEmpty() ? plataforma::CarpetaPrograma(nullptr) + "Datos/"
+                                           : QFile::encodeName(pedida).toStdString();
+    std::error_code ec;
+    if (!std::filesystem::is_directory(carpeta, ec)) {
+        std::cerr << "vedrano-cli " << orden << ": no existe la carpeta de datos: " << carpeta << "\n";
+        return std::nullopt;
+    }
+    if (carpeta.back() != '/') carpeta += '/';
+    return carpeta;
+}
+
+void AvisosEnErrorEstandar::Avisa(const std::string& texto, const std::string& titulo) {
+    std::cerr << DesdeA1252(titulo) << ": " << DesdeA1252(texto) << "\n";
+    hubo = true;
+}
 
 std::string CarpetaDe(const std::filesystem::path& ruta) {
     std::string c = ruta.parent_path().string();

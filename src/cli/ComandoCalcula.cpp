@@ -1,5 +1,6 @@
 #include "cli/ComandoCalcula.h"
 
+#include <QFile>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -362,24 +363,22 @@ void Calcula(std::istream& entrada, std::ostream& salida, const std::string& dir
         std::size_t p = linea.find_first_not_of(" \t\r");
         if (p == std::string::npos || linea[p] == '#') continue;
         salida << calc.Ejecuta(linea) << '\n' << std::flush;
+        if (!salida) return;  // nobody reads the rest
     }
 }
 
-int ComandoCalcula(int argc, char** argv) {
-    std::string dirDatos;
-    for (int i = 2; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--datos") == 0 && i + 1 < argc) {
-            dirDatos = argv[++i];
-            if (!dirDatos.empty() && dirDatos.back() != '/') dirDatos += '/';
-        } else {
-            std::cerr << "vedrano-cli calcula: opción no válida: " << argv[i] << "\n"
-                      << "Uso: vedrano-cli calcula [--datos DIR]\n";
-            return 2;
-        }
+int ComandoCalcula(const OpcionesCli& o) {
+    // Without the data folder the calculator still answers every line (the
+    // operations that need orbital elements with "ERROR 53"), but the run
+    // as a whole has failed.
+    std::optional<std::string> dirDatos = CarpetaDatos(o.datos, "calcula");
+    const std::string carpeta = dirDatos ? *dirDatos : QFile::encodeName(o.datos).toStdString() + "/";
+    Calcula(std::cin, std::cout, carpeta);
+    if (!std::cout) {
+        std::cerr << "vedrano-cli calcula: no se puede escribir el resultado en la salida estándar\n";
+        return 1;
     }
-    if (dirDatos.empty()) dirDatos = CarpetaDatosPorDefecto(argv[0]);
-    Calcula(std::cin, std::cout, dirDatos);
-    return 0;
+    return dirDatos ? 0 : 1;
 }
 
 }  // namespace vedrano

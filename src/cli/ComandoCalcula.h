@@ -4,6 +4,8 @@
 #include <iosfwd>
 #include <string>
 
+#include "cli/Argumentos.h"
+
 namespace vedrano {
 
 // Runs the calculator over `entrada` into `salida`; `dirDatos` is the folder
@@ -11,6 +13,8 @@ namespace vedrano {
 // elements, on first need).
 void Calcula(std::istream& entrada, std::ostream& salida, const std::string& dirDatos);
 
-int ComandoCalcula(int argc, char** argv);
+// Runs the calculator over standard input and output; 1 when the data
+// folder is missing or the output cannot be written.
+int ComandoCalcula(const OpcionesCli& o);
 
 }  // namespace vedrano

@@ -1,6 +1,6 @@
 #include "cli/ComandoConfiguracion.h"
 
-#include <cstring>
+#include <QFile>
 #include <filesystem>
 #include <iostream>
 #include <string>
@@ -17,10 +17,6 @@ namespace vedrano {
 
 namespace {
 
-constexpr const char* USO =
-    "Uso: vedrano-cli configuracion --lee A.ls1 [--escribe B.ls1]\n"
-    "     vedrano-cli configuracion --muestras CARPETA [--datos DIR]\n";
-
 // Messages go to standard error; the command line has already been told what
 // to do, so it accepts every question.
 class InterfazConsola : public InterfazConfiguracion {
@@ -35,6 +31,17 @@ public:
     }
 };
 
+// A path given on the command line, in the system's encoding of names.
+std::filesystem::path Ruta(const QString& texto) { return QFile::encodeName(texto).toStdString(); }
+
+// Whether standard output took everything (a full disk says so only here).
+bool SalidaEscrita() {
+    std::cout << std::flush;
+    if (std::cout) return true;
+    std::cerr << "vedrano-cli configuracion: no se puede escribir en la salida estándar\n";
+    return false;
+}
+
 void Lista(Estado& e) {
     for (int linea = 1; linea <= 4; ++linea) {
         int numero = 1;
@@ -46,46 +53,37 @@ void Lista(Estado& e) {
 
 }  // namespace
 
-int ComandoConfiguracion(int argc, char** argv) {
-    std::string lee, escribe, muestras, datos;
-    for (int i = 2; i < argc; ++i) {
-        std::string opcion = argv[i];
-        std::string* destino = opcion == "--lee"        ? &lee
-                               : opcion == "--escribe"  ? &escribe
-                               : opcion == "--muestras" ? &muestras
-                               : opcion == "--datos"    ? &datos
-                                                        : nullptr;
-        if (!destino || i + 1 >= argc) {
-            std::cerr << "vedrano-cli configuracion: opción no válida: " << opcion << "\n" << USO;
-            return 2;
-        }
-        *destino = argv[++i];
-    }
+int ComandoConfiguracion(const OpcionesCli& o) {
     InterfazConsola ui;
-    if (!muestras.empty()) {
-        if (datos.empty()) datos = CarpetaDatosPorDefecto(argv[0]);
-        if (datos.back() != '/') datos += '/';
-        int error = GeneraMuestras(muestras, datos, std::cout);
-        if (error != 0) std::cerr << "vedrano-cli configuracion: error " << error << " al escribir las muestras\n";
-        return error == 0 ? 0 : 1;
-    }
-    if (lee.empty()) {
-        std::cerr << USO;
-        return 2;
+    if (!o.muestras.isEmpty()) {
+        std::optional<std::string> datos = CarpetaDatos(o.datos, "configuracion");
+        if (!datos) return 1;
+        int error = GeneraMuestras(Ruta(o.muestras).string(), *datos, std::cout);
+        if (error != 0)
+            std::cerr << "vedrano-cli configuracion: error " << error << " al escribir las muestras en "
+                      << o.muestras.toStdString() << "\n";
+        return error == 0 && SalidaEscrita() ? 0 : 1;
     }
     Estado e;
-    std::filesystem::path entrada(lee);
+    std::filesystem::path entrada = Ruta(o.lee);
     e.DirArchivo = CarpetaDe(entrada);
-    ResultadoConfiguracion r = LeeConfiguracion(e, A1252(entrada.filename().string()), ui);
+    ResultadoConfiguracion r = LeeConfiguracion(e, entrada.filename().string(), ui);
     // An overflow is not shown by the reader; the command line still says so.
     if (r.error == ErrDesbordamiento) ui.Mensaje(r.texto, A1252("Cargar configuración"), 1, 1);
+    if (r.error != 0) {
+        std::cerr << "vedrano-cli configuracion: no se puede leer " << entrada.string() << "\n";
+        return 1;
+    }
     Lista(e);
-    if (r.error != 0) return 1;
-    if (!escribe.empty()) {
-        std::filesystem::path salida(escribe);
+    if (!SalidaEscrita()) return 1;
+    if (!o.escribe.isEmpty()) {
+        std::filesystem::path salida = Ruta(o.escribe);
         e.DirArchivo = CarpetaDe(salida);
-        ResultadoConfiguracion w = EscribeConfiguracion(e, A1252(salida.filename().string()), ui, false);
-        if (!w.escrito) return 1;
+        ResultadoConfiguracion w = EscribeConfiguracion(e, salida.filename().string(), ui, false);
+        if (!w.escrito) {
+            std::cerr << "vedrano-cli configuracion: no se ha escrito " << salida.string() << "\n";
+            return 1;
+        }
     }
     return 0;
 }

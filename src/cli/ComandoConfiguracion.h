@@ -3,8 +3,10 @@
 // configurations.
 #pragma once
 
+#include "cli/Argumentos.h"
+
 namespace vedrano {
 
-int ComandoConfiguracion(int argc, char** argv);
+int ComandoConfiguracion(const OpcionesCli& o);
 
 }  // namespace vedrano

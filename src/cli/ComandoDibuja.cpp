@@ -1,7 +1,10 @@
 #include "cli/ComandoDibuja.h"
 
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
-#include <cstring>
+#include <QImageWriter>
 #include <filesystem>
 #include <iostream>
 #include <string>
@@ -9,6 +12,8 @@
 #include "app/Texto1252.h"
 #include "catalogue/CargaCatalogos.h"
 #include "cli/CarpetaDatos.h"
+#include "config/ErroresArchivo.h"
+#include "config/EscrituraSegura.h"
 #include "config/LeeConfiguracion.h"
 #include "sky/DibujaCielo.h"
 #include "sky/PaginaImpresa.h"
@@ -19,83 +24,73 @@ namespace {
 
 // Messages of the loader and the configuration reader go to standard error;
 // a question is answered yes, as a batch run has nobody to ask.
-class Consola : public Notificador, public InterfazConfiguracion {
+class Consola : public AvisosEnErrorEstandar, public InterfazConfiguracion {
 public:
-    void Avisa(const std::string& texto, const std::string& titulo) override {
-        std::cerr << DesdeA1252(titulo) << ": " << DesdeA1252(texto) << "\n";
-    }
     int16_t Mensaje(const std::string& texto, const std::string& titulo, int16_t, int16_t) override {
         Avisa(texto, titulo);
         return 1;
     }
 };
 
-int Uso() {
-    std::cerr << "Uso: vedrano-cli dibuja [--config ARCHIVO.ls1] [--datos DIR] [--ancho W] [--alto H]"
-                 " --salida cielo.png\n";
-    return 2;
+// The picture encoded in the format its name asks for; PNG at a light
+// compression level, which costs little size and a fraction of the time.
+bool Codifica(const QImage& imagen, const QString& nombre, QByteArray& bytes) {
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QByteArray formato = QFileInfo(nombre).suffix().toLower().toLatin1();
+    if (formato.isEmpty()) formato = "png";
+    QImageWriter escritor(&buffer, formato);
+    if (formato == "png") escritor.setQuality(80);  // zlib level 1
+    return escritor.write(imagen);
 }
 
 }  // namespace
 
-int ComandoDibuja(int argc, char** argv) {
-    std::string config, datos, salida;
-    int ancho = 1024, alto = 768;
-    for (int i = 2; i < argc; ++i) {
-        auto valor = [&](std::string& destino) {
-            if (i + 1 >= argc) return false;
-            destino = argv[++i];
-            return true;
-        };
-        std::string numero;
-        if (std::strcmp(argv[i], "--config") == 0 && valor(config)) continue;
-        if (std::strcmp(argv[i], "--datos") == 0 && valor(datos)) continue;
-        if (std::strcmp(argv[i], "--salida") == 0 && valor(salida)) continue;
-        if ((std::strcmp(argv[i], "--ancho") == 0 || std::strcmp(argv[i], "--alto") == 0) && valor(numero)) {
-            int v = std::atoi(numero.c_str());
-            if (v < 16 || v > 16384) {
-                std::cerr << "vedrano-cli dibuja: tamaño no válido: " << numero << " (de 16 a 16384 píxeles)\n";
-                return 2;
-            }
-            (argv[i - 1][3] == 'n' ? ancho : alto) = v;
-            continue;
-        }
-        std::cerr << "vedrano-cli dibuja: opción no válida: " << argv[i] << "\n";
-        return Uso();
-    }
-    if (salida.empty()) return Uso();
-    if (datos.empty()) datos = CarpetaDatosPorDefecto(argv[0]);
-    if (datos.back() != '/') datos += '/';
-
+int ComandoDibuja(int argc, char** argv, const OpcionesCli& o) {
+    std::optional<std::string> datos = CarpetaDatos(o.datos, "dibuja");
+    if (!datos) return 1;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
 
     Consola consola;
     Catalogos catalogos;
-    CargaCatalogos(datos, catalogos, consola);
+    CargaCatalogos(*datos, catalogos, consola);
+    // A sky drawn from catalogues that did not load would be a blank picture.
+    if (consola.hubo) return 1;
 
     Estado e;
     namespace fs = std::filesystem;
-    fs::path archivo = config.empty() ? fs::path(datos).parent_path().parent_path() / "Archivo" / "Inicial.ls1"
-                                      : fs::path(config);
+    fs::path archivo = o.config.isEmpty() ? fs::path(*datos).parent_path().parent_path() / "Archivo" / "Inicial.ls1"
+                                          : fs::path(QFile::encodeName(o.config).toStdString());
     e.DirArchivo = CarpetaDe(archivo);
-    e.DirDatos = datos;
-    ResultadoConfiguracion r = LeeConfiguracion(e, A1252(archivo.filename().string()), consola);
-    if (r.error == 53 && !config.empty()) return 1;
+    e.DirDatos = *datos;
+    ResultadoConfiguracion r = LeeConfiguracion(e, archivo.filename().string(), consola);
+    // Without a configuration named, the defaults are a picture as well.
+    if (r.error != 0 && !o.config.isEmpty()) {
+        std::cerr << "vedrano-cli dibuja: no se puede leer la configuración " << archivo.string() << "\n";
+        return 1;
+    }
 
+    const std::string salida = QFile::encodeName(o.salida).toStdString();
     // A name ending in ".pdf" gets the printed page, title block included.
-    if (QString::fromStdString(salida).endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
-        if (!EscribePdf(QString::fromStdString(salida), e, catalogos)) {
+    if (o.salida.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
+        if (!EscribePdf(o.salida, e, catalogos)) {
             std::cerr << "vedrano-cli dibuja: no se puede escribir el PDF en " << salida << "\n";
             return 1;
         }
         return 0;
     }
 
-    Lienzo lienzo(ancho, alto);
+    Lienzo lienzo(o.ancho, o.alto);
     ActualizaCielo(e, catalogos, lienzo);
-    if (!lienzo.Imagen().save(QString::fromStdString(salida))) {
-        std::cerr << "vedrano-cli dibuja: no se puede escribir la imagen en " << salida << "\n";
+    QByteArray bytes;
+    if (!Codifica(lienzo.Imagen(), o.salida, bytes)) {
+        std::cerr << "vedrano-cli dibuja: formato de imagen desconocido: " << salida << "\n";
+        return 1;
+    }
+    if (int error = EscribeArchivoEntero(salida, std::string_view(bytes.constData(), bytes.size())); error != 0) {
+        std::cerr << "vedrano-cli dibuja: no se puede escribir la imagen en " << salida << ": "
+                  << DesdeA1252(TextoErrorArchivo("DIB", error)) << "\n";
         return 1;
     }
     return 0;

@@ -1,6 +1,5 @@
 #include "cli/ComandoLista.h"
 
-#include <cstring>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -13,14 +12,6 @@
 namespace vedrano {
 
 namespace {
-
-// The loader's messages, one per line on standard error.
-class AvisosEnErrorEstandar : public Notificador {
-public:
-    void Avisa(const std::string& texto, const std::string& titulo) override {
-        std::cerr << DesdeA1252(titulo) << ": " << DesdeA1252(texto) << "\n";
-    }
-};
 
 // A Windows-1252 text in lower case without accents, with runs of blanks
 // made one, to compare category names as users type them.
@@ -53,39 +44,10 @@ void NombresValidos() {
     for (const CategoriaLista& c : CATEGORIAS_LISTA) std::cerr << "  " << DesdeA1252(c.nombre) << "\n";
 }
 
-void Uso() {
-    std::cerr << "Uso: vedrano-cli lista CATEGORIA [--datos DIR]\n"
-                 "(una categoría de varias palabras, entre comillas o no; mayúsculas y acentos dan igual)\n";
-    NombresValidos();
-}
-
 }  // namespace
 
-int ComandoLista(int argc, char** argv) {
-    std::string dirDatos, pedida;
-    bool hayCategoria = false;
-    for (int i = 2; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--datos") == 0) {
-            if (i + 1 >= argc) {
-                std::cerr << "vedrano-cli lista: falta la carpeta tras --datos\n";
-                return 2;
-            }
-            dirDatos = argv[++i];
-        } else if (std::strcmp(argv[i], "--help") == 0 || std::strcmp(argv[i], "-h") == 0) {
-            Uso();
-            return 0;
-        } else {
-            // Words of an unquoted name ("Sistema Solar") join back into one.
-            if (hayCategoria) pedida += ' ';
-            pedida += argv[i];
-            hayCategoria = true;
-        }
-    }
-    if (!hayCategoria) {
-        std::cerr << "vedrano-cli lista: falta la categoría\n";
-        Uso();
-        return 2;
-    }
+int ComandoLista(const OpcionesCli& o) {
+    const std::string pedida = o.categoria.toStdString();
     const CategoriaLista* elegida = nullptr;
     const std::string clave = Pliega(A1252(pedida));
     for (const CategoriaLista& c : CATEGORIAS_LISTA)
@@ -95,18 +57,25 @@ int ComandoLista(int argc, char** argv) {
         NombresValidos();
         return 2;
     }
-    if (dirDatos.empty()) dirDatos = CarpetaDatosPorDefecto(argv[0]);
+    std::optional<std::string> dirDatos = CarpetaDatos(o.datos, "lista");
+    if (!dirDatos) return 1;
 
     auto catalogos = std::make_unique<Catalogos>();
     AvisosEnErrorEstandar avisos;
-    CargaCatalogos(dirDatos, *catalogos, avisos);
+    CargaCatalogos(*dirDatos, *catalogos, avisos);
+    // A list built from a catalogue that did not load would be rows of blanks.
+    if (avisos.hubo) return 1;
     std::string salida;
     for (const std::string& linea : catalogos->Listas.*(elegida->lista)) {
         salida += DesdeA1252(linea);
         salida += '\n';
     }
     std::cout << salida << std::flush;
-    return std::cout ? 0 : 1;
+    if (!std::cout) {
+        std::cerr << "vedrano-cli lista: no se puede escribir la lista en la salida estándar\n";
+        return 1;
+    }
+    return 0;
 }
 
 }  // namespace vedrano

@@ -2,8 +2,12 @@
 // form, or the places list, one line each, in UTF-8.
 #pragma once
 
+#include "cli/Argumentos.h"
+
 namespace vedrano {
 
-int ComandoLista(int argc, char** argv);
+// 0 with the lines written; 2 for an unknown category; 1 when the data
+// cannot be read whole or the output cannot be written.
+int ComandoLista(const OpcionesCli& o);
 
 }  // namespace vedrano

@@ -457,7 +457,7 @@ int GeneraMuestras(const std::string& carpeta, const std::string& dirDatos, std:
         Escena s(lugares, planetas);
         std::string hechos = m.prepara(s);
         s.e.DirArchivo = carpeta.empty() || carpeta.back() == '/' ? carpeta : carpeta + "/";
-        ResultadoConfiguracion r = EscribeConfiguracion(s.e, A1252(m.archivo), ui, false);
+        ResultadoConfiguracion r = EscribeConfiguracion(s.e, m.archivo, ui, false);
         if (r.error != 0) return r.error;
         informe << m.archivo << ": " << s.TextoInstante() << ", " << DesdeA1252(s.e.TextoLugar) << "; "
                 << hechos << "\n";

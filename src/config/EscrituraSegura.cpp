@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <random>
 #if __has_include(<unistd.h>)
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -24,16 +25,34 @@ bool VuelcaADisco(FILE* f) {
     return true;
 }
 
+// A device or a pipe cannot be replaced by renaming: it is written into.
+int EscribeEnDispositivo(const std::filesystem::path& destino, std::string_view contenido) {
+    FILE* f = std::fopen(destino.c_str(), "wb");
+    if (!f) return ErrorDeSistema(errno);
+    bool bien = std::fwrite(contenido.data(), 1, contenido.size(), f) == contenido.size() && std::fflush(f) == 0;
+    int codigo = bien ? 0 : errno;
+    if (std::fclose(f) != 0 && bien) codigo = errno;
+    return codigo == 0 ? 0 : ErrorDeSistema(codigo);
+}
+
 }  // namespace
 
 int EscribeArchivoEntero(const std::string& ruta, std::string_view contenido) {
     namespace fs = std::filesystem;
-    const fs::path destino(ruta);
+    std::error_code ec;
+    // A symbolic link stays a link: the file it points at is the one replaced.
+    fs::path destino(ruta);
+    if (fs::is_symlink(destino, ec)) {
+        fs::path final = fs::weakly_canonical(destino, ec);
+        if (ec) return ErrorDeSistema(ec.value());
+        destino = final;
+    }
     fs::path carpeta = destino.parent_path();
     if (carpeta.empty()) carpeta = ".";
-    std::error_code ec;
     if (!fs::is_directory(carpeta, ec)) return ErrRutaNoEncontrada;
-    if (fs::is_directory(destino, ec)) return ErrAccesoRuta;
+    const fs::file_status antes = fs::status(destino, ec);
+    if (fs::is_directory(antes)) return ErrAccesoRuta;
+    if (fs::exists(antes) && !fs::is_regular_file(antes)) return EscribeEnDispositivo(destino, contenido);
 
     // A fresh name each time, opened exclusively, so that two programs saving
     // at once never share a temporary file.
@@ -52,6 +71,11 @@ int EscribeArchivoEntero(const std::string& ruta, std::string_view contenido) {
     }
     if (!f) return ErrAccesoRuta;
 
+    // The new file gets the old one's permissions (a private 0600 file stays
+    // private); a new name gets what the user's umask allows.
+#if __has_include(<unistd.h>)
+    if (fs::exists(antes)) ::fchmod(::fileno(f), static_cast<mode_t>(antes.permissions()) & 07777);
+#endif
     bool bien = std::fwrite(contenido.data(), 1, contenido.size(), f) == contenido.size();
     bien = bien && VuelcaADisco(f);
     int codigo = bien ? 0 : errno;

@@ -90,7 +90,7 @@ ResultadoConfiguracion Falta(int numero, int linea, int dato) {
 }  // namespace
 
 std::string RutaConfiguracion(const Estado& e, std::string_view nombre) {
-    return e.DirArchivo + DesdeA1252(nombre);
+    return e.DirArchivo + std::string(nombre);
 }
 
 void AplicaOmisiones(Estado& e) {

@@ -8,9 +8,9 @@
 
 namespace vedrano {
 
-// The path of a configuration: DirArchivo (a folder as the file system
-// names it) followed by the name (Windows-1252 program text, written out
-// in UTF-8 as the file system expects).
+// The path of a configuration: DirArchivo followed by the name, both as the
+// file system names them (UTF-8 on Linux). Only the file's contents are
+// Windows-1252.
 std::string RutaConfiguracion(const Estado& e, std::string_view nombre);
 
 // Reads DirArchivo + nombre into the state. When the file cannot be opened

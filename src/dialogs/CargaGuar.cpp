@@ -44,10 +44,7 @@ std::vector<std::string> CargaGuar::Configuraciones(const std::string& carpeta) 
                                     .entryList({QStringLiteral("*.ls1")}, QDir::Files,
                                                QDir::Name | QDir::IgnoreCase);
     std::vector<std::string> r;
-    for (const QString& n : nombres) {
-        const std::string programa = A1252(n.toStdString());
-        if (DesdeA1252(programa) == n.toStdString()) r.push_back(programa);
-    }
+    for (const QString& n : nombres) r.push_back(n.toStdString());
     return r;
 }
 
@@ -105,14 +102,16 @@ CargaGuar::CargaGuar(ContextoDialogo& ctx)
 void CargaGuar::llenaLista(const std::string& elegido) {
     lista_->clear();
     for (const std::string& n : Configuraciones(ctx_.e.DirArchivo)) {
-        lista_->addItem(Texto(n));
-        if (!elegido.empty() && QString::compare(Texto(n), Texto(elegido), Qt::CaseInsensitive) == 0)
+        lista_->addItem(QString::fromStdString(n));
+        if (!elegido.empty() && QString::compare(QString::fromStdString(n), QString::fromStdString(elegido),
+                                                 Qt::CaseInsensitive) == 0)
             lista_->setCurrentRow(lista_->count() - 1);
     }
 }
 
 std::string CargaGuar::nombreEscrito(const char* tituloCp1252) {
-    const std::string n = A1252(nombre_->text().trimmed().toStdString());
+    // File names stay as typed (UTF-8): any name the file system takes.
+    const std::string n = nombre_->text().trimmed().toStdString();
     if (n.empty())
         ctx_.mensajes.Mensaje("Escriba el nombre del archivo de configuraci\xF3n o elija uno de la lista.",
                               tituloCp1252, 1, 2);
@@ -135,7 +134,7 @@ void CargaGuar::guarda() {
     if (n.empty()) return;
     const ResultadoConfiguracion r = EscribeConfiguracion(ctx_.e, n, ctx_.mensajes, false);
     if (r.escrito) {
-        nombre_->setText(Texto(r.archivo));
+        nombre_->setText(QString::fromStdString(r.archivo));
         llenaLista(r.archivo);
     }
 }
@@ -150,11 +149,11 @@ void CargaGuar::borra() {
         return;
     }
     const std::string pregunta =
-        "Va a borrar el archivo de configuraci\xF3n  " + n +
+        "Va a borrar el archivo de configuraci\xF3n  " + A1252(n) +
         ".   Para confirmarlo pulse el  Bot\xF3n  Aceptar.   Para salir sin borrarlo pulse el  Bot\xF3n  Cancelar.";
     if (ctx_.mensajes.Mensaje(pregunta, TITULO_BORRAR, 2, 6) == 0) return;
     if (!QFile::remove(ruta)) {
-        ctx_.mensajes.Mensaje("No se ha podido borrar el archivo de configuraci\xF3n  " + n + ".", TITULO_BORRAR, 1,
+        ctx_.mensajes.Mensaje("No se ha podido borrar el archivo de configuraci\xF3n  " + A1252(n) + ".", TITULO_BORRAR, 1,
                               1);
         return;
     }

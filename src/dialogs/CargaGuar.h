@@ -22,9 +22,8 @@ class CargaGuar : public MarcoOpciones {
 public:
     explicit CargaGuar(ContextoDialogo& ctx);
 
-    // The ".ls1" files of `carpeta` (as the file system names it), sorted
-    // without regard to case, as program text; names the code page cannot
-    // hold are left out, since they could not be opened by name.
+    // The ".ls1" files of `carpeta`, sorted without regard to case, every
+    // one whatever its name, in UTF-8 as the file system names them.
     static std::vector<std::string> Configuraciones(const std::string& carpeta);
 
     QListWidget* lista() const { return lista_; }

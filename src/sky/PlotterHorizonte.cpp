@@ -68,8 +68,8 @@ void DibujaLuzDiurna(Contexto& x) {
     e.Elevacion = MEDIO_PI;
     HallaSolAparente(e);
     PosicionCuerpo& sol = e.Planetas[10];
-    Vector3f v{sol.x, sol.y, sol.z};
-    PuntoProyectado p = ProyectaPuntoRef(e, v);
+    // The Sun's place is of the date: no precession step.
+    PuntoProyectado p = ProyectaPuntoFecha(e, Vector3f{sol.x, sol.y, sol.z});
     e.Elevacion = elevacion;
     int azul = CInt(p.Z * 640.0 + 192.0);
     if (azul < 0) azul = 0;

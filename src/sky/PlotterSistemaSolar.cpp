@@ -33,8 +33,8 @@ constexpr std::array<Aspecto, 12> CUERPOS = {{
 
 // The Moon's elongation east of the Sun, 0..2pi: the angle between their
 // directions, counted past pi when the Moon is west of the Sun (waning).
-double Elongacion(const PosicionCuerpo& luna, const PosicionCuerpo& sol) {
-    double c = double(luna.x) * sol.x + double(luna.y) * sol.y + double(luna.z) * sol.z;
+double Elongacion(const PosicionCuerpo& luna, const PosicionCuerpo& sol, const Vector3f& vs) {
+    double c = double(luna.x) * vs.x + double(luna.y) * vs.y + double(luna.z) * vs.z;
     double psi = std::acos(std::max(-1.0, std::min(1.0, c)));
     double diferencia = std::remainder(luna.AscRecta - sol.AscRecta, 2 * M_PI);
     return diferencia >= 0 ? psi : 2 * M_PI - psi;
@@ -53,8 +53,9 @@ int Forma(double elongacion) {
 void DibujaCuerpo(Contexto& x, int cuerpo) {
     Estado& e = x.e;
     PosicionCuerpo& b = e.Planetas[static_cast<std::size_t>(cuerpo)];
+    // Places of the date, projected without the precession step.
     Vector3f v = AngulosAVector(b.AscRecta, b.Declinacion);
-    PuntoProyectado p = ProyectaPuntoRef(e, v);
+    PuntoProyectado p = ProyectaPuntoFecha(e, v);
     b.x = v.x, b.y = v.y, b.z = v.z;
     b.X = p.X, b.Y = p.Y, b.Z = p.Z;
     if (!EsVisible(e, p)) return;
@@ -64,10 +65,11 @@ void DibujaCuerpo(Contexto& x, int cuerpo) {
         // The phase from the elongation quantised to sixteen shapes; the lit
         // limb faces the Sun's place on the screen.
         const PosicionCuerpo& sol = e.Planetas[10];
-        int forma = Forma(Elongacion(b, sol));
-        double iluminada = (1 - std::cos(forma * 22.5 * GRADO)) / 2;
-        Vector3f vs{sol.x, sol.y, sol.z};
-        PuntoProyectado ps = ProyectaPuntoRef(e, vs);
+        Vector3f vs = AngulosAVector(sol.AscRecta, sol.Declinacion);
+        int forma = Forma(Elongacion(b, sol, vs));
+        // Each shape stands for the middle of its 22.5 degree step.
+        double iluminada = (1 - std::cos((forma + 0.5) * 22.5 * GRADO)) / 2;
+        PuntoProyectado ps = ProyectaPuntoFecha(e, vs);
         QPointF a0 = x.l.APixel(p.X, p.Y), a1 = x.l.APixel(ps.X, ps.Y);
         double haciaSol = std::atan2(-(a1.y() - a0.y()), a1.x() - a0.x());
         x.l.Fase(p.X, p.Y, a.radio, iluminada, haciaSol, color, ColorVB(0x404040));

@@ -59,7 +59,7 @@ const Tabla TABLAS[] = {
 };
 
 TEST(DatosCatalogo, LosFicherosSeRegeneranIgualesDesdeLasFuentes) {
-    if (!fs::is_directory(VEDRANO_FUENTES_DATOS)) GTEST_SKIP() << "sin las fuentes de datos";
+    ASSERT_TRUE(fs::is_directory(VEDRANO_FUENTES_DATOS)) << VEDRANO_FUENTES_DATOS;
     fs::path tmp = fs::temp_directory_path() / ("vedrano-datos-" + std::to_string(::getpid()));
     fs::remove_all(tmp);
     std::string orden = std::string("python3 \"") + VEDRANO_RAIZ + "/tools/genera_datos.py\" \"" +

@@ -65,13 +65,13 @@ TEST(ListaCli, CategoriaDesconocidaSale2ConLosNombresValidos) {
     EXPECT_EQ(Lista("").codigo, 2);
 }
 
-TEST(ListaCli, SinDatosAvisaYContesta) {
+TEST(ListaCli, ConDatosIncompletosAvisaYNoEscribeFilasVacias) {
     fs::path vacia = fs::temp_directory_path() / ("vedrano_sin_datos_" + std::to_string(::getpid()));
     fs::create_directories(vacia);
     Salida s = Lista("'Sistema Solar' --datos '" + vacia.string() + "'");
     fs::remove_all(vacia);
-    EXPECT_EQ(s.codigo, 0);
-    EXPECT_EQ(s.lineas.size(), 11u);
+    EXPECT_EQ(s.codigo, 1);
+    EXPECT_TRUE(s.lineas.empty());
     EXPECT_NE(s.errores.find("Cargando datos iniciales: ERROR CTA53: No existe el fichero"), std::string::npos);
 }
 

@@ -148,10 +148,10 @@ TEST_F(Configuracion, LasMuestrasCarganSinMensajeYSeReescribenIguales) {
     for (const char* nombre : nombres) {
         Estado m;
         m.DirArchivo = archivo;
-        ResultadoConfiguracion r = LeeConfiguracion(m, A1252(nombre), ui);
+        ResultadoConfiguracion r = LeeConfiguracion(m, nombre, ui);
         EXPECT_EQ(r.error, 0) << nombre << ": " << DesdeA1252(r.texto);
         m.DirArchivo = e.DirArchivo;
-        EscribeConfiguracion(m, A1252(nombre), ui, false);
+        EscribeConfiguracion(m, nombre, ui, false);
         EXPECT_EQ(Lee(carpeta / nombre), Lee(fs::path(archivo) / nombre)) << nombre;
     }
     EXPECT_TRUE(ui.vistos.empty());

@@ -1,5 +1,7 @@
 // The sky picture on real images: layer gating, what each layer touches,
 // daylight, the Moon over the Sun, and sizes with the zoom.
+#include <erfa.h>
+#include <erfam.h>
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
@@ -71,6 +73,15 @@ int PixelesEncendidos(const QImage& img) {
 }
 
 void Dibuja(Estado& e, Lienzo& l) { ActualizaCielo(e, Datos(), l); }
+
+// Turns the view toward an equatorial direction of the date.
+void MiraA(Estado& e, const Vector3f& v, float zoom) {
+    Vector3f h = EcuatorialAHorizontal(e, v);  // x west, y north, z zenith
+    e.Direccion = std::atan2(-double{h.x}, double{h.y});
+    if (e.Direccion < 0) e.Direccion += 2 * M_PI;
+    e.Elevacion = std::asin(double{h.z});
+    e.Zoom = zoom;
+}
 
 }  // namespace
 
@@ -285,4 +296,73 @@ TEST(Dibujo, DrawingThePlanetsLeavesTheSunWhereItIs) {
     Dibuja(todos, l);
     EXPECT_DOUBLE_EQ(todos.Planetas[10].AscRecta, solo.Planetas[10].AscRecta);
     EXPECT_DOUBLE_EQ(todos.Planetas[10].Declinacion, solo.Planetas[10].Declinacion);
+}
+
+TEST(Dibujo, TheSunIsDrawnAtItsPlaceOfDateInAntiquity) {
+    // 2 January 1000, 12:00 UT, from Toledo, with precession on as in every
+    // sample. The reference is the Sun of ERFA referred to the true equator
+    // and equinox of the date (TT = UT + Delta T, Morrison-Stephenson).
+    Lienzo l(800, 600);
+    Estado e = Apagado();
+    e.Capas.Sol = 1;
+    e.Precesion = true;
+    e.Latitud = 39.86 * ERFA_DD2R;
+    e.Longitud = 4.02 * ERFA_DD2R;  // west positive
+    e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(1000, 1, 2, 12, 0));
+    ASSERT_NEAR(e.FechaJuliana, 2086309.0, 1e-6);  // Julian calendar
+    double u = (1000.0 - 1820.0) / 100.0, tt = e.FechaJuliana + (-20.0 + 32.0 * u * u) / 86400.0;
+    double pvh[2][3], pvb[2][3], p[3], rnp[3][3], ar, dec;
+    eraEpv00(tt, 0, pvh, pvb);
+    for (int i = 0; i < 3; ++i) p[i] = -pvh[0][i];
+    eraPnm06a(tt, 0, rnp);
+    eraRxp(rnp, p, p);
+    eraC2s(p, &ar, &dec);
+    Dibuja(e, l);  // settles the sidereal time for the view below
+    MiraA(e, AngulosAVector(ar, dec), 4);
+    Dibuja(e, l);
+    const PosicionCuerpo& sol = e.Planetas[10];
+    ASSERT_GE(sol.Z, e.Umbral);
+    // Where the disc was drawn, read back through the inverse projection.
+    double arDibujo = 0, decDibujo = 0;
+    float altitud = 0, azimut = 0;
+    PuntoACielo(e, sol.X, sol.Y, arDibujo, decDibujo, altitud, azimut);
+    EXPECT_LT(eraSeps(arDibujo, decDibujo, ar, dec) * ERFA_DR2D, 0.7);
+    QPointF px = l.APixel(sol.X, sol.Y);
+    QRgb centro = l.Imagen().pixel(static_cast<int>(px.x()), static_cast<int>(px.y()));
+    EXPECT_EQ(centro & 0xFFFFFF, 0xFFFF00u);  // the Sun's yellow
+}
+
+TEST(Dibujo, TheMoonsShapeShowsTheMiddleOfItsPhaseStep) {
+    // Days after a new Moon until the elongation falls in the third step
+    // (45 to 68 degrees): the shape stands for 56.25 degrees, a disc lit
+    // (1 - cos 56.25) / 2 = 22.2 %, the area between the limb and the
+    // terminator's half ellipse.
+    Lienzo l(800, 600);
+    Estado e = Apagado();
+    e.Capas.Luna = 1;
+    e.Latitud = 0.7;
+    double elongacion = 0;
+    for (double jd = 2460310.5; jd < 2460345.5; jd += 0.25) {
+        e.FechaJuliana = jd;
+        Dibuja(e, l);
+        const PosicionCuerpo& s = e.Planetas[10];
+        const PosicionCuerpo& m = e.Planetas[11];
+        elongacion = eraSeps(m.AscRecta, m.Declinacion, s.AscRecta, s.Declinacion) * ERFA_DR2D;
+        if (std::remainder(m.AscRecta - s.AscRecta, 2 * M_PI) > 0 && elongacion > 50 && elongacion < 63) break;
+    }
+    ASSERT_GT(elongacion, 50);
+    MiraA(e, AngulosAVector(e.Planetas[11].AscRecta, e.Planetas[11].Declinacion), 20);
+    Dibuja(e, l);
+    const PosicionCuerpo& m = e.Planetas[11];
+    QPointF c = l.APixel(m.X, m.Y);
+    double radio = 0.009 * l.PixelesPorUnidad();
+    ASSERT_GT(radio, 30);
+    int luz = 0, sombra = 0;
+    for (int dy = -int(radio); dy <= int(radio); ++dy)
+        for (int dx = -int(radio); dx <= int(radio); ++dx) {
+            if (std::hypot(dx, dy) > radio - 2) continue;
+            QRgb px = l.Imagen().pixel(int(c.x()) + dx, int(c.y()) + dy);
+            (qGray(px) > 0x90 ? luz : sombra)++;
+        }
+    EXPECT_NEAR(double(luz) / (luz + sombra), (1 - std::cos(56.25 * ERFA_DD2R)) / 2, 0.025);
 }

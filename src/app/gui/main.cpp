@@ -1,11 +1,15 @@
 // VEDRANO: the start-up sequence of the desktop program.
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QThread>
+#include <filesystem>
+#include <iostream>
 
 #include "app/Arranque.h"
 #include "app/Texto1252.h"
 #include "catalogue/CargaCatalogos.h"
+#include "cli/Argumentos.h"
 #include "config/LeeConfiguracion.h"
 #include "dialogs/Mensajes.h"
 #include "dialogs/MensajesVentana.h"
@@ -20,6 +24,22 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName("VEDRANO");
     QApplication::setApplicationVersion("3.2");
+    AnalisisCli orden = AnalizaArgumentosVentana(QApplication::arguments());
+    if (orden.terminar) {
+        std::cout << orden.salida << std::flush;
+        std::cerr << orden.error;
+        return orden.codigo;
+    }
+    // A configuration named on the command line (a file manager opening it)
+    // is read from where it is, in place of the working folder's
+    // "Inicial.ls1"; saving still goes to the working folder.
+    namespace fs = std::filesystem;
+    const fs::path inicial = QFile::encodeName(orden.opciones.config).toStdString();
+    std::error_code ec;
+    if (!inicial.empty() && !fs::is_regular_file(inicial, ec)) {
+        std::cerr << "vedrano: no existe el archivo de configuración " << inicial.string() << "\n";
+        return 1;
+    }
 
     Estado e;
     Catalogos c;
@@ -38,7 +58,14 @@ int main(int argc, char** argv) {
     app.processEvents();
 
     CargaCatalogos(e.DirDatos, c, cielo.Mensajes());
-    LeeConfiguracion(e, "Inicial.ls1", cielo.Mensajes());
+    if (inicial.empty()) {
+        LeeConfiguracion(e, "Inicial.ls1", cielo.Mensajes());
+    } else {
+        const std::string trabajo = e.DirArchivo;
+        e.DirArchivo = fs::absolute(inicial, ec).parent_path().string() + "/";
+        LeeConfiguracion(e, inicial.filename().string(), cielo.Mensajes());
+        e.DirArchivo = trabajo;
+    }
     cielo.ActualizaCielo();
 
     QApplication::restoreOverrideCursor();

@@ -1,5 +1,8 @@
 #include "sky/apunta/Apunta.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "app/Constantes.h"
 #include "app/Texto1252.h"
 #include "astro/TextosAngulo.h"
@@ -56,6 +59,42 @@ bool CentraPunto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m, 
     e.ObjetivoAR = ar;
     e.ObjetivoDEC = dec;
     return CentraObjeto(e, planetas, m);
+}
+
+bool HorizonteEn(const Estado& e, float X, float Y, PuntoHorizonte& h) {
+    double ar = 0, dec = 0;
+    float alt = 0, az = 0;
+    PuntoACielo(e, X, Y, ar, dec, alt, az);
+    if (ar == 99 && dec == 99) return false;
+    h = {alt, az};
+    return true;
+}
+
+bool LlevaPunto(Estado& e, const PuntoHorizonte& h, float X, float Y) {
+    // The place under (X, Y) moves with the view almost one to one in both
+    // angles; three corrections bring it within a fraction of a pixel.
+    const double direccion = e.Direccion, elevacion = e.Elevacion;
+    for (int vuelta = 0; vuelta < 3; ++vuelta) {
+        PuntoHorizonte ahora;
+        if (!HorizonteEn(e, X, Y, ahora)) {
+            if (vuelta > 0) break;
+            e.Direccion = direccion, e.Elevacion = elevacion;
+            return false;
+        }
+        const double dAz = std::remainder(h.azimut - ahora.azimut, DOS_PI);
+        const double dAlt = h.altitud - ahora.altitud;
+        if (std::fabs(dAz) < 1e-7 && std::fabs(dAlt) < 1e-7) break;
+        double d = std::fmod(e.Direccion + dAz, DOS_PI);
+        if (d < 0) d += DOS_PI;
+        e.Direccion = d;
+        e.Elevacion = std::clamp(e.Elevacion + dAlt, 0.0, 1.5707963268);
+        GiraDireccion(e);
+    }
+    return true;
+}
+
+float ZoomTrasPasos(float zoom, int pasos) {
+    return std::clamp(zoom + 0.5f * static_cast<float>(pasos), 1.0f, 15.0f);
 }
 
 }  // namespace vedrano

@@ -29,4 +29,22 @@ bool CentraObjeto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m)
 // the point is on the sphere.
 bool CentraPunto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m, float X, float Y);
 
+// A place on the horizon sphere: altitude and azimuth, radians.
+struct PuntoHorizonte {
+    double altitud = 0, azimut = 0;
+};
+
+// The horizon place under a screen point (user scale); false off the sphere.
+bool HorizonteEn(const Estado& e, float X, float Y, PuntoHorizonte& h);
+
+// Turns the view (Direccion, Elevacion) so that the horizon place `h`
+// shows at the screen point (X, Y): the grip of a drag and the fixed point
+// of a zoom under the pointer. Elevacion stays within 0..pi/2 as the arrows
+// keep it, so near the limits the place follows only in azimuth. Returns
+// false, changing nothing, when (X, Y) is off the sphere.
+bool LlevaPunto(Estado& e, const PuntoHorizonte& h, float X, float Y);
+
+// The zoom after `pasos` steps of 0.5 (negative zooms out), within 1..15.
+float ZoomTrasPasos(float zoom, int pasos);
+
 }  // namespace vedrano

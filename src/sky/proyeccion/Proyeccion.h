@@ -21,6 +21,11 @@ PuntoProyectado ProyectaPunto(const Estado& e, Vector3f v);
 // As ProyectaPunto, and leaves the precessed direction in v.
 PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v);
 
+// Projects a direction already referred to the equator and equinox of the
+// date (the Sun, the Moon and the planets): the forward transform without
+// its precession step, whatever the precession switch says.
+PuntoProyectado ProyectaPuntoFecha(const Estado& e, const Vector3f& v);
+
 // Projects a direction already in the horizon frame (x west, y north,
 // z zenith).
 PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h);

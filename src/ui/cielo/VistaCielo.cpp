@@ -1,10 +1,13 @@
 #include "ui/cielo/VistaCielo.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include "app/ErrorEjecucion.h"
 #include "app/Texto1252.h"
+#include "platform/qt/Cursores.h"
 #include "sky/DibujaCielo.h"
 
 namespace vedrano {
@@ -71,15 +74,47 @@ void VistaCielo::resizeEvent(QResizeEvent*) {
     DibujaCielo();
 }
 
-void VistaCielo::mouseMoveEvent(QMouseEvent* ev) {
+void VistaCielo::InformaCursor(const QPointF& pixel) {
     if (!e_.PanelCursor) return;
-    QPointF u = AUsuario(ev->position());
+    QPointF u = AUsuario(pixel);
     emit CursorMovido(InformeCursor(e_, static_cast<float>(u.x()), static_cast<float>(u.y())));
 }
 
-void VistaCielo::mousePressEvent(QMouseEvent*) { e_.ClickArmado = true; }
+void VistaCielo::VistaMovida() {
+    DibujaCielo();
+    emit VistaGirada();
+}
+
+void VistaCielo::mouseMoveEvent(QMouseEvent* ev) {
+    if (agarrado_ && (ev->buttons() & Qt::LeftButton)) {
+        if (!arrastrando_ &&
+            (ev->position() - presion_).manhattanLength() >= QApplication::startDragDistance()) {
+            // Past the drag distance the press is no longer a click.
+            arrastrando_ = true;
+            e_.ClickArmado = false;
+            setCursor(plataforma::CursorNumero(23));
+        }
+        if (arrastrando_) {
+            QPointF u = AUsuario(ev->position());
+            if (LlevaPunto(e_, agarre_, static_cast<float>(u.x()), static_cast<float>(u.y()))) VistaMovida();
+        }
+    }
+    InformaCursor(ev->position());
+}
+
+void VistaCielo::mousePressEvent(QMouseEvent* ev) {
+    e_.ClickArmado = true;
+    arrastrando_ = false;
+    agarrado_ = false;
+    if (ev->button() != Qt::LeftButton) return;
+    presion_ = ev->position();
+    QPointF u = AUsuario(presion_);
+    agarrado_ = HorizonteEn(e_, static_cast<float>(u.x()), static_cast<float>(u.y()), agarre_);
+}
 
 void VistaCielo::mouseReleaseEvent(QMouseEvent* ev) {
+    if (arrastrando_) setCursor(Qt::CrossCursor);
+    agarrado_ = arrastrando_ = false;
     if (!e_.ClickArmado) return;
     e_.ClickArmado = false;
     if (ev->button() == Qt::RightButton) {
@@ -92,6 +127,31 @@ void VistaCielo::mouseReleaseEvent(QMouseEvent* ev) {
         DibujaCielo();
         emit VistaCentrada();
     }
+}
+
+void VistaCielo::wheelEvent(QWheelEvent* ev) {
+    // One notch (15 degrees of the wheel) is one zoom step of the arrows;
+    // touch pads send smaller parts that add up.
+    restoRueda_ += ev->angleDelta().y();
+    const int pasos = restoRueda_ / 120;
+    restoRueda_ -= pasos * 120;
+    ev->accept();
+    if (pasos == 0 || !listo_) return;
+    const float zoom = ZoomTrasPasos(e_.Zoom, pasos);
+    if (zoom == e_.Zoom) return;
+    const QPointF pixel = ev->position();
+    QPointF u = AUsuario(pixel);
+    PuntoHorizonte bajo;
+    const bool fijo = HorizonteEn(e_, static_cast<float>(u.x()), static_cast<float>(u.y()), bajo);
+    e_.Zoom = zoom;
+    AjustaEscalaLienzo(e_, lienzo_);
+    if (fijo) {
+        // The place under the pointer stays under it.
+        u = AUsuario(pixel);
+        LlevaPunto(e_, bajo, static_cast<float>(u.x()), static_cast<float>(u.y()));
+    }
+    VistaMovida();
+    InformaCursor(pixel);
 }
 
 void VistaCielo::DibujaMarca(const QPointF& pixel) {

@@ -1,6 +1,8 @@
 // The sky picture of the main window: shows the canvas, keeps its size in
 // step with the window, reports the point under the cursor, centres on a
-// left click and marks on a right click.
+// left click and marks on a right click. Besides, the wheel zooms about
+// the point under the pointer and a left drag turns the view; a press that
+// moves less than the drag distance stays a click.
 #pragma once
 #include <QWidget>
 #include <functional>
@@ -30,6 +32,7 @@ public:
 signals:
     void CursorMovido(const TextosCursor& textos);
     void VistaCentrada();  // a click centred the view: the panels must follow
+    void VistaGirada();    // a drag or the wheel changed direction, elevation or zoom
     void Dibujado();       // a pass finished: the information fields can be refreshed
 
 protected:
@@ -38,16 +41,26 @@ protected:
     void mouseMoveEvent(QMouseEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    void wheelEvent(QWheelEvent*) override;
 
 private:
     void DibujaMarca(const QPointF& pixel);
     void Protegido(const std::function<void()>& pasada);
+    void InformaCursor(const QPointF& pixel);
+    // The view turned or zoomed by the mouse: redraw and tell the panels.
+    void VistaMovida();
 
     Estado& e_;
     const Catalogos& c_;
     InterfazMensajes& m_;
     Lienzo lienzo_;
     QPointF marca_;
+    // The left press of a possible drag: where it went down, the horizon
+    // place gripped there, and whether it has become a drag.
+    QPointF presion_;
+    PuntoHorizonte agarre_;
+    bool agarrado_ = false, arrastrando_ = false;
+    int restoRueda_ = 0;  // wheel eighths of a degree not yet a step
     bool listo_ = false, avisado_ = false;
 };
 
