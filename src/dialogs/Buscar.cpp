@@ -20,6 +20,7 @@
 #include "dialogs/PiezasForma.h"
 #include "dialogs/TextosBuscar.h"
 #include "sky/apunta/Apunta.h"
+#include "sky/apunta/DiaObjeto.h"
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/ControlDibujado.h"
 #include "ui/controles/Estilo.h"
@@ -58,6 +59,9 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     leyenda_ = new QLabel(this);
     leyenda_->setFont(columnas);
     leyenda_->setTextFormat(Qt::PlainText);
+    dia_ = new QLabel(this);
+    dia_->setTextFormat(Qt::PlainText);
+    dia_->setAccessibleName(QStringLiteral("Salida, tránsito y puesta"));
 
     indice_ = new QListWidget(this);
     VisteLista(indice_, columnas);
@@ -78,6 +82,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
             if (k == 1) item->setData(ROL_CLAVE, ClaveMessier(item->text()));
         }
         connect(l, &QListWidget::itemDoubleClicked, this, [this] { busca(); });
+        connect(l, &QListWidget::currentRowChanged, this, [this] { muestraDia(); });
         l->viewport()->setMouseTracking(true);
         l->viewport()->installEventFilter(this);
         l->hide();
@@ -122,6 +127,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     caja->addWidget(cabecera_);
     caja->addLayout(pila, 1);
     caja->addWidget(leyenda_);
+    caja->addWidget(dia_);
     caja->addLayout(pie);
     muestraIndice();
 }
@@ -131,6 +137,24 @@ QWidget* Buscar::rotulo() const { return titulo_; }
 QString Buscar::cabecera() const { return cabecera_->isVisible() ? cabecera_->text() : QString(); }
 QStringList Buscar::leyenda() const {
     return leyenda_->isHidden() || leyenda_->text().isEmpty() ? QStringList() : leyenda_->text().split('\n');
+}
+
+QString Buscar::textoDia() const { return dia_->isHidden() ? QString() : dia_->text(); }
+
+void Buscar::muestraDia() {
+    // The rising, transit and setting of the chosen line for the date and
+    // place of the sky, in one line under the list.
+    QListWidget* l = categoria_ < 0 ? nullptr : listas_[static_cast<std::size_t>(categoria_)];
+    ObjetoDelDia o;
+    if (!l || !ObjetoDeLista(ctx_.c, categoria_, l->currentRow(), o)) {
+        dia_->hide();
+        return;
+    }
+    std::string texto;
+    for (const std::string& linea : TextosDia(HallaDia(ctx_.e, ctx_.c.TablaPlanetas, o)))
+        texto += (texto.empty() ? "" : "   ") + linea;
+    dia_->setText(controles::Texto(texto));
+    dia_->show();
 }
 
 QListWidget* Buscar::listaVisible() const {
@@ -144,6 +168,7 @@ void Buscar::muestraIndice() {
     titulo_->setToolTip({});
     cabecera_->hide();
     leyenda_->hide();
+    dia_->hide();
     indice_->setCurrentRow(-1);
     indice_->clearSelection();
     filtro_->blockSignals(true);
@@ -173,6 +198,7 @@ void Buscar::eligeCategoria(int categoria) {
     QListWidget* l = listas_[static_cast<std::size_t>(categoria)];
     FiltraLista(l, {});
     l->show();
+    muestraDia();
     filtro_->setFocus();
 }
 

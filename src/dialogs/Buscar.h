@@ -34,6 +34,8 @@ public:
     QWidget* rotulo() const;
     QString cabecera() const;
     QStringList leyenda() const;
+    // The rising, transit and setting of the chosen line (empty without one).
+    QString textoDia() const;
     // The category shown, -1 while the index is.
     int categoria() const { return categoria_; }
 
@@ -50,6 +52,7 @@ protected:
 
 private:
     QListWidget* listaVisible() const;
+    void muestraDia();
     void sale();
 
     ContextoDialogo& ctx_;
@@ -57,6 +60,7 @@ private:
     Relieve* titulo_;
     QLabel* cabecera_;
     QLabel* leyenda_;
+    QLabel* dia_;
     QListWidget* indice_;
     std::array<QListWidget*, 12> listas_{};
     QLineEdit* filtro_;

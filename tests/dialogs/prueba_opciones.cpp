@@ -213,7 +213,8 @@ protected:
         Opciones::SetUp();
         ASSERT_TRUE(dir.isValid());
         e.DirArchivo = dir.path().toStdString() + "/";
-        for (const char* n : {"b.ls1", "Plut\xC3\xB3n.ls1", "A.LS1", "Temporal.wrk", "notas.txt"})
+        for (const char* n : {"b.ls1", "Plut\xC3\xB3n.ls1", "A.LS1", "Temporal.wrk", "notas.txt", "\xCE\xA9mega.ls1",
+                              "\xE6\x9D\xB1\xE4\xBA\xAC.ls1"})
             std::ofstream(e.DirArchivo + n) << "x";
     }
     QStringList Lista(CargaGuar& d) {
@@ -230,9 +231,24 @@ protected:
 
 TEST_F(Configuraciones, ListaSoloLosArchivosDeConfiguracion) {
     CargaGuar d(*ctx);
-    EXPECT_EQ(Lista(d), (QStringList{"A.LS1", "b.ls1", QString::fromUtf8("Plutón.ls1")}));
+    EXPECT_EQ(Lista(d), (QStringList{"A.LS1", "b.ls1", QString::fromUtf8("Plutón.ls1"), QString::fromUtf8("Ωmega.ls1"),
+                                     QString::fromUtf8("東京.ls1")}));
     d.lista()->setCurrentRow(2);
     EXPECT_EQ(d.nombre()->text(), QString::fromUtf8("Plutón.ls1"));
+}
+
+TEST_F(Configuraciones, NombresFueraDeLaPaginaDeCodigos) {
+    CargaGuar d(*ctx);
+    e.FechaJuliana = 2451545.0;
+    d.nombre()->setText(QString::fromUtf8("Ωmega-copia"));
+    Pulsa(d.guardar());
+    EXPECT_TRUE(QFile::exists(dir.filePath(QString::fromUtf8("Ωmega-copia.ls1"))));
+    EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("?mega-copia.ls1"))));
+    e.FechaJuliana = 0;
+    d.nombre()->setText(QString::fromUtf8("Ωmega-copia.ls1"));
+    Pulsa(d.cargar());
+    EXPECT_DOUBLE_EQ(e.FechaJuliana, 2451545.0);
+    EXPECT_TRUE(m.textos.empty());
 }
 
 TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
