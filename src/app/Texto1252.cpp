@@ -37,6 +37,13 @@ void AnadeUtf8(std::string& s, uint32_t cp) {
 
 }  // namespace
 
+std::string TextoConArchivo(std::string_view textoCp1252, std::string_view ruta) {
+    std::string t(textoCp1252);
+    t += "\r\n";
+    t += A1252(ruta);
+    return t;
+}
+
 std::string A1252(std::string_view u) {
     std::string r;
     r.reserve(u.size());

@@ -12,6 +12,11 @@ std::string A1252(std::string_view utf8);
 // Windows-1252 to UTF-8.
 std::string DesdeA1252(std::string_view cp1252);
 
+// A message about a file followed, on a line of its own, by the file's
+// path (as the file system names it): "ERROR CTA53: No existe el fichero"
+// and below it the path of the missing file.
+std::string TextoConArchivo(std::string_view textoCp1252, std::string_view ruta);
+
 // Mid$(texto, inicio, largo) with 1-based start: a start below 1 is an
 // invalid procedure call (error 5); past the end gives an empty text.
 std::string Mid(std::string_view texto, long inicio, long largo);

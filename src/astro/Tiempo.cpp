@@ -50,8 +50,12 @@ void TiempoDesdeReloj(Estado& e, const TablaPlanetas& planetas, double fechaHora
     ActualizaTiempo(e, planetas);
 }
 
+double RelojLocal(const Estado& e, double fechaHoraUniversal) {
+    return fechaHoraUniversal + e.ZonaHoraria / 24.0 + Adelanto(e);
+}
+
 void TiempoActual(Estado& e, const TablaPlanetas& planetas) {
-    TiempoDesdeReloj(e, planetas, plataforma::FechaHoraLocal());
+    TiempoDesdeReloj(e, planetas, RelojLocal(e, plataforma::FechaHoraUniversal()));
 }
 
 void TextoFechaHora(Estado& e, double jd) {

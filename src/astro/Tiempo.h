@@ -16,11 +16,18 @@ void ActualizaTiempo(Estado& e, const TablaPlanetas& planetas);
 // time (29 February landing in a common year becomes 1 March).
 void AvanzaTiempo(Estado& e, const TablaPlanetas& planetas);
 
-// Sets FechaJuliana to the computer's clock, taken as local civil time of
-// the observer's zone, cut to whole minutes.
+// Sets FechaJuliana to the present moment, cut to whole minutes: the
+// system's Universal Time made the observer's civil time (configured zone
+// and summer time), then taken back by the same amount. The computer's own
+// zone plays no part, wherever the computer is.
 void TiempoActual(Estado& e, const TablaPlanetas& planetas);
 // The same from a given local clock reading (days since 30 December 1899).
 void TiempoDesdeReloj(Estado& e, const TablaPlanetas& planetas, double fechaHoraLocal);
+
+// The observer's civil date and time (days since 30 December 1899) for a
+// Universal-Time reading of the same scale: the zone and the summer hour
+// added.
+double RelojLocal(const Estado& e, double fechaHoraUniversal);
 
 // Leaves the display texts of a Julian day in TextoFecha ("dd / mm / yyyyy")
 // and TextoHora ("hh:mm", or with " AM"/" PM" when FormatoHora is not 1).

@@ -25,6 +25,7 @@ void CargaTabla(TrampaCarga& siFalla, const std::string& dirDatos, const char* f
                 long primerRegistro, std::span<Registro> tabla, PorRegistro porRegistro = {}) {
     ArchivoRegistros f;
     const std::string ruta = (std::filesystem::path(dirDatos) / fichero).string();
+    siFalla.Archivo(ruta);
     siFalla.AvisaYSigue([&] { f.Abre(ruta, largo); });
     siFalla.AvisaYSigue([&] { f.Lee(primerRegistro, tabla); });
     if constexpr (!std::is_same_v<PorRegistro, SinLista>) {

@@ -3,6 +3,7 @@
 // on with the next statement, so that a bad data file never stops start-up.
 #pragma once
 #include <string>
+#include <utility>
 
 #include "app/ErrorEjecucion.h"
 #include "catalogue/Notificador.h"
@@ -13,12 +14,15 @@ inline constexpr const char* TITULO_CARGA = "Cargando datos iniciales";
 
 // "ERROR CTA53: No existe el fichero" for a missing file, "ERROR CTA62:
 // Faltan datos en el fichero" for a short one, "ERROR CTA" and the number
-// otherwise.
-std::string TextoErrorCarga(int numero);
+// otherwise; with a file, its path on the next line.
+std::string TextoErrorCarga(int numero, const std::string& ruta = {});
 
 class TrampaCarga {
 public:
     explicit TrampaCarga(Notificador& n) : notificador_(n) {}
+
+    // The file that the next statements work on, named by their messages.
+    void Archivo(std::string ruta) { ruta_ = std::move(ruta); }
 
     // Runs one statement; if it raises a run-time error, reports it and
     // returns as though the statement had finished.
@@ -34,6 +38,7 @@ public:
 private:
     void Informa(int numero);
     Notificador& notificador_;
+    std::string ruta_;
 };
 
 }  // namespace vedrano

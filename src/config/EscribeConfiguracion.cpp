@@ -81,7 +81,7 @@ ResultadoConfiguracion EscribeConfiguracion(Estado& e, std::string_view nombre, 
     }
     r.error = EscribeArchivoEntero(ruta, TextoConfiguracion(e));
     if (r.error != 0) {
-        r.texto = TextoErrorArchivo("CFG", r.error);
+        r.texto = TextoConArchivo(TextoErrorArchivo("CFG", r.error), ruta);
         ui.Mensaje(r.texto, titulo, 1, 1);
         return r;
     }

@@ -173,6 +173,7 @@ ResultadoConfiguracion LeeConfiguracion(Estado& e, std::string_view nombre, Inte
                       : TextoErrorArchivo("CFG", r.error);
     }
     r.archivo = std::string(nombre);
+    if (r.error != 0) r.texto = TextoConArchivo(r.texto, ruta);
     if (r.error != 0 && r.error != ErrDesbordamiento)
         ui.Mensaje(r.texto, A1252("Cargar configuración"), 1, 1);
     return r;

@@ -35,7 +35,7 @@ void FijaIntervalo(Estado& e) {
 }  // namespace
 
 Animar::Animar(ContextoDialogo& ctx)
-    : MarcoOpciones(ctx, "Animaci\xF3n", "Animaci\xF3n", TEMA_AYUDA), c_(ctx), reloj_(plataforma::FechaHoraLocal) {
+    : MarcoOpciones(ctx, "Animaci\xF3n", "Animaci\xF3n", TEMA_AYUDA), c_(ctx), reloj_(plataforma::FechaHoraUniversal) {
     Estado& e = ctx.e;
     auto* cuerpo = new QVBoxLayout;
     cuerpo->setSpacing(8);
@@ -111,7 +111,7 @@ void Animar::done(int r) {
         if (e.PasoUnidad >= 1 && e.PasoUnidad <= 12) FijaPaso(e, e.PasoDias < 0 ? -1 : 1);
         if (e.TiempoReal) {
             if (c_.ArrancaTiempoReal) c_.ArrancaTiempoReal();
-            TiempoDesdeReloj(e, c_.c.TablaPlanetas, reloj_());
+            TiempoDesdeReloj(e, c_.c.TablaPlanetas, RelojLocal(e, reloj_()));
             e.Cambiado = true;
         } else if (c_.ParaTiempoReal) {
             c_.ParaTiempoReal();

@@ -20,8 +20,9 @@ class Animar : public MarcoOpciones {
 public:
     explicit Animar(ContextoDialogo& ctx);
 
-    // Where the present moment is read when real time is switched on (local
-    // days since 30 December 1899); the computer's clock unless replaced.
+    // Where the present moment is read when real time is switched on
+    // (Universal Time in days since 30 December 1899); the system's clock
+    // unless replaced.
     void setReloj(std::function<double()> reloj) { reloj_ = std::move(reloj); }
 
     // For the tests: the option of unit `unidad` (1..12), the count and the

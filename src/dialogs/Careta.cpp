@@ -83,6 +83,20 @@ Careta::Careta(const Estado& e)
     setFixedSize(ANCHO, ALTO);
     setWindowTitle(QStringLiteral("VEDRANO"));
     reloj_.start();
+    qApp->installEventFilter(this);
+}
+
+bool Careta::eventFilter(QObject* objeto, QEvent* ev) {
+    // The show event comes before the window is mapped, so the cover is
+    // gone by the time the message appears.
+    if (ev->type() == QEvent::Show && objeto != this && objeto->isWidgetType()) {
+        auto* w = static_cast<QWidget*>(objeto);
+        if (w->isWindow() && w->isModal() && isVisible()) {
+            qApp->removeEventFilter(this);
+            close();
+        }
+    }
+    return QWidget::eventFilter(objeto, ev);
 }
 
 int Careta::tiempoMinimo() const {

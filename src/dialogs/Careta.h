@@ -23,6 +23,9 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    // Any modal window (a message, a question) closes the cover first: kept
+    // on top, the cover would hide it.
+    bool eventFilter(QObject* objeto, QEvent* ev) override;
 
 private:
     void cierraPronto();

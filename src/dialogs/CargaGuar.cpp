@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QListWidget>
 
@@ -122,9 +123,17 @@ void CargaGuar::carga() {
     std::string n = nombreEscrito(TITULO_CARGAR);
     if (n.empty()) return;
     if (!TieneExtension(n)) n += ".ls1";
-    // The reader tells its own faults; a file that is gone leaves the
-    // defaults, which the picture must show as well.
+    // A name that leads nowhere is told and leaves the situation alone: the
+    // reader would replace it with the defaults.
+    const std::string ruta = RutaConfiguracion(ctx_.e, n);
+    if (!QFileInfo(QString::fromStdString(ruta)).isFile()) {
+        ctx_.mensajes.Mensaje(TextoConArchivo(NO_EXISTE, ruta), TITULO_CARGAR, 1, 1);
+        return;
+    }
+    // The reader tells the faults it finds inside the file.
     LeeConfiguracion(ctx_.e, n, ctx_.mensajes);
+    // The situation saved before a centring no longer applies.
+    ctx_.e.Centrado = false;
     ctx_.e.Cambiado = true;
     if (ctx_.ActualizaCielo) ctx_.ActualizaCielo();
 }
@@ -144,8 +153,8 @@ void CargaGuar::borra() {
     if (n.empty()) return;
     if (!TieneExtension(n)) n += ".ls1";
     const QString ruta = QString::fromStdString(RutaConfiguracion(ctx_.e, n));
-    if (!QFile::exists(ruta)) {
-        ctx_.mensajes.Mensaje(NO_EXISTE, TITULO_BORRAR, 1, 1);
+    if (!QFileInfo(ruta).isFile()) {
+        ctx_.mensajes.Mensaje(TextoConArchivo(NO_EXISTE, ruta.toStdString()), TITULO_BORRAR, 1, 1);
         return;
     }
     const std::string pregunta =

@@ -31,7 +31,7 @@ std::string TextoCampo(const QLineEdit* campo) { return A1252(campo->text().toSt
 }  // namespace
 
 Hora::Hora(ContextoDialogo& ctx)
-    : MarcoOpciones(ctx, "Fecha y Hora", "Fecha y Hora", TEMA_AYUDA), c_(ctx), reloj_(plataforma::FechaHoraLocal) {
+    : MarcoOpciones(ctx, "Fecha y Hora", "Fecha y Hora", TEMA_AYUDA), c_(ctx), reloj_(plataforma::FechaHoraUniversal) {
     Estado& e = ctx.e;
     auto* cuerpo = new QVBoxLayout;
     cuerpo->setSpacing(8);
@@ -247,12 +247,12 @@ void Hora::pulsa(int indice) {
     Estado& e = c_.e;
     switch (indice) {
         case 41:
-            TiempoDesdeReloj(e, c_.c.TablaPlanetas, reloj_());
+            TiempoDesdeReloj(e, c_.c.TablaPlanetas, RelojLocal(e, reloj_()));
             e.Cambiado = true;
             muestra();
             break;
-        case 42: fijaJuliana(JulianaMediodia(e, reloj_())); break;
-        case 43: fijaJuliana(JulianaMedianoche(e, reloj_())); break;
+        case 42: fijaJuliana(JulianaMediodia(e, RelojLocal(e, reloj_()))); break;
+        case 43: fijaJuliana(JulianaMedianoche(e, RelojLocal(e, reloj_()))); break;
         default: break;
     }
 }

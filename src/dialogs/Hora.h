@@ -25,8 +25,9 @@ class Hora : public MarcoOpciones {
 public:
     explicit Hora(ContextoDialogo& ctx);
 
-    // Where the present moment is read (local days since 30 December 1899);
-    // the computer's clock unless replaced.
+    // Where the present moment is read: Universal Time in days since
+    // 30 December 1899, the system's clock unless replaced. The form adds
+    // the zone and summer time shown in it.
     void setReloj(std::function<double()> reloj) { reloj_ = std::move(reloj); }
 
     // For the tests. `k` is 0 for Universal and 1 for local time.

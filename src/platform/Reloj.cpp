@@ -1,7 +1,6 @@
 #include "platform/Reloj.h"
 
 #include <chrono>
-#include <ctime>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -17,28 +16,18 @@ constexpr double DIAS_HASTA_1970 = 25569.0;
 
 }  // namespace
 
-double FechaHoraLocal() {
+double FechaHoraUniversal() {
 #ifdef _WIN32
-    SYSTEMTIME st;
-    GetLocalTime(&st);
-    std::tm t{};
-    t.tm_year = st.wYear - 1900;
-    t.tm_mon = st.wMonth - 1;
-    t.tm_mday = st.wDay;
-    // The civil fields, counted as if they were UTC, give the local serial.
-    std::time_t dias = _mkgmtime(&t) / 86400;
-    return DIAS_HASTA_1970 + static_cast<double>(dias) +
-           (st.wHour * 3600.0 + st.wMinute * 60.0 + st.wSecond + st.wMilliseconds / 1000.0) / 86400.0;
+    // FILETIME counts 100 ns intervals from 1 January 1601 (UTC).
+    FILETIME ft;
+    GetSystemTimeAsFileTime(&ft);
+    const unsigned long long t = (static_cast<unsigned long long>(ft.dwHighDateTime) << 32) | ft.dwLowDateTime;
+    constexpr double DIAS_1601_A_1899 = 109205.0;  // 1 January 1601 to 30 December 1899
+    return static_cast<double>(t) / 864000000000.0 - DIAS_1601_A_1899;
 #else
     using namespace std::chrono;
-    auto ahora = system_clock::now();
-    std::time_t segundos = system_clock::to_time_t(ahora);
-    std::tm local{};
-    localtime_r(&segundos, &local);
-    // Seconds of the local civil time counted from 1970 as if it were UTC.
-    double civil = static_cast<double>(segundos) + static_cast<double>(local.tm_gmtoff);
-    double fraccion = duration<double>(ahora.time_since_epoch()).count() - static_cast<double>(segundos);
-    return DIAS_HASTA_1970 + (civil + fraccion) / 86400.0;
+    const double segundos = duration<double>(system_clock::now().time_since_epoch()).count();
+    return DIAS_HASTA_1970 + segundos / 86400.0;
 #endif
 }
 

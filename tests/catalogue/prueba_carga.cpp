@@ -147,9 +147,11 @@ TEST_F(Carpeta, SinVDRDAT1SeAvisaYElRestoCarga) {
     CargaCatalogos(VEDRANO_DATOS, *completo, sinAvisos);
     Carga();
 
-    // The open, then the read and the close of a file that is not open.
-    EXPECT_EQ(avisos.Textos(),
-              (std::vector<std::string>{"ERROR CTA53: No existe el fichero", "ERROR CTA52", "ERROR CTA52"}));
+    // The open, then the read and the close of a file that is not open;
+    // each names the file.
+    const std::string ruta = "\r\n" + (dir / "VDRDAT1.DAT").string();
+    EXPECT_EQ(avisos.Textos(), (std::vector<std::string>{"ERROR CTA53: No existe el fichero" + ruta,
+                                                         "ERROR CTA52" + ruta, "ERROR CTA52" + ruta}));
     for (const auto& [texto, titulo] : avisos.recibidos) EXPECT_EQ(titulo, "Cargando datos iniciales");
     EXPECT_EQ(c->TablaEstrellas[0].Magnitud, 0.0f);
     EXPECT_EQ(c->TablaEstrellas[26519].Direccion.z, 0.0f);
@@ -183,13 +185,13 @@ TEST_F(Carpeta, FicherosCortosOEstropeadosNoRompenNada) {
             EXPECT_LE(c->Listas.Estrellas.size(), 1483u);
             EXPECT_LE(c->Listas.Galaxias.size(), 1234u);
             // A cut or empty file is told; noise may only raise subscripts.
+            const std::string corto = "ERROR CTA62: Faltan datos en el fichero\r\n" + f.string(),
+                              subindice = "ERROR CTA9\r\n" + f.string();
             const std::vector<std::string> textos = avisos.Textos();
-            bool corto = version.size() < original.size();
-            EXPECT_EQ(std::count(textos.begin(), textos.end(), "ERROR CTA62: Faltan datos en el fichero"), corto ? 1 : 0)
-                << f.filename();
+            bool esCorto = version.size() < original.size();
+            EXPECT_EQ(std::count(textos.begin(), textos.end(), corto), esCorto ? 1 : 0) << f.filename();
             for (const std::string& a : textos)
-                EXPECT_TRUE(a == "ERROR CTA9" || (corto && a == "ERROR CTA62: Faltan datos en el fichero"))
-                    << f.filename() << ": " << a;
+                EXPECT_TRUE(a == subindice || (esCorto && a == corto)) << f.filename() << ": " << a;
         }
         Escribe(f.filename().string(), original);
     }
@@ -197,7 +199,8 @@ TEST_F(Carpeta, FicherosCortosOEstropeadosNoRompenNada) {
     c = std::make_unique<Catalogos>();
     avisos.recibidos.clear();
     Carga();
-    EXPECT_EQ(avisos.Textos(), std::vector<std::string>{"ERROR CTA62: Faltan datos en el fichero"});
+    EXPECT_EQ(avisos.Textos(),
+              std::vector<std::string>{"ERROR CTA62: Faltan datos en el fichero\r\n" + (dir / "VDRDATH.DAT").string()});
     EXPECT_EQ(c->Listas.Lugares[9], std::string(20, 'x'));
     EXPECT_EQ(c->Listas.Lugares[10], std::string(13, 'x') + std::string(7, ' '));
     EXPECT_EQ(c->Listas.Lugares[11], std::string(20, ' '));

@@ -74,7 +74,7 @@ TEST_F(DatosDanados, CuentasFueraDeLasTablasSeAvisanYSeAjustan) {
     }
     Escribe("VDRDATA.DAT", cuentas);
     Carga();
-    EXPECT_EQ(avisos.textos, std::vector<std::string>(8, "ERROR CTA9"));
+    EXPECT_EQ(avisos.textos, std::vector<std::string>(8, "ERROR CTA9\r\n" + (dir / "VDRDATA.DAT").string()));
     const Cuentas& k = c->TablasCuentas;
     const std::vector<std::pair<const TablaCuentas*, int>> tablas = {
         {&k.Estrellas, N_ESTRELLAS},       {&k.Rotulos, N_ESTRELLAS_NOMBRE},   {&k.Figuras, N_FIGURAS},
@@ -124,8 +124,11 @@ TEST_F(DatosDanados, CarpetaOVacioEnLugarDeUnFicheroSeAvisaYElRestoCarga) {
     fs::create_directory(dir / "VDRDATF.DAT");
     Escribe("VDRDAT1.DAT", "");
     Carga();
-    EXPECT_EQ(avisos.textos, (std::vector<std::string>{"ERROR CTA53: No existe el fichero", "ERROR CTA52",
-                                                        "ERROR CTA52", "ERROR CTA62: Faltan datos en el fichero"}));
+    const std::string enPlanetas = "\r\n" + (dir / "VDRDATF.DAT").string();
+    EXPECT_EQ(avisos.textos, (std::vector<std::string>{"ERROR CTA53: No existe el fichero" + enPlanetas,
+                                                        "ERROR CTA52" + enPlanetas, "ERROR CTA52" + enPlanetas,
+                                                        "ERROR CTA62: Faltan datos en el fichero\r\n" +
+                                                            (dir / "VDRDAT1.DAT").string()}));
     EXPECT_EQ(c->Listas.Estrellas.size(), 1483u);
     EXPECT_EQ(c->TablaEstrellas[0].Magnitud, 0.0f);
     TablaPlanetas planetas{};

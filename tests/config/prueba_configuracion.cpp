@@ -179,7 +179,8 @@ TEST_F(Configuracion, ArchivoQueNoExisteDejaLosValoresPorOmision) {
     ResultadoConfiguracion r = LeeConfiguracion(e, "Nada.ls1", ui);
     EXPECT_EQ(r.error, 53);
     ASSERT_EQ(ui.vistos.size(), 1u);
-    EXPECT_EQ(ui.vistos[0].texto, A1252("No existe un archivo de configuración con ese nombre."));
+    EXPECT_EQ(ui.vistos[0].texto, A1252("No existe un archivo de configuración con ese nombre.\r\n") +
+                                      e.DirArchivo + "Nada.ls1");
     EXPECT_EQ(ui.vistos[0].titulo, A1252("Cargar configuración"));
     EXPECT_EQ(ui.vistos[0].botones, 1);
     EXPECT_EQ(ui.vistos[0].icono, 1);

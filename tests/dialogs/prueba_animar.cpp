@@ -118,8 +118,8 @@ TEST_F(FormaAnimar, TiempoRealArrancaElRelojYSaltaAlPresente) {
         if (!a) return;
         t->stop();
         t->deleteLater();
-        // Local clock: 1 January 2000, 13:00, zone +1: 12:00 UT.
-        a->setReloj([] { return 2451544.5 - 2415018.5 + 13.0 / 24; });
+        // 1 January 2000, 12:00 UT: the zone adds and takes back its hour.
+        a->setReloj([] { return 2451544.5 - 2415018.5 + 12.0 / 24; });
         Clic(a->tiempoReal(), QPoint(5, 5));
         EXPECT_TRUE(e.TiempoReal);
         EXPECT_EQ(e.ContadorTiempoReal, 0);

@@ -4,6 +4,9 @@
 // time, and the step keys held down, with the missing year 0.
 #include <gtest/gtest.h>
 
+#include <ctime>
+
+#include <QDateTime>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -224,8 +227,8 @@ TEST_F(FormaHora, AmPm) {
 }
 
 TEST_F(FormaHora, MediodiaMedianocheYAhoraConVerano) {
-    // Local clock: 15 July 2024, 09:20, in zone +1 with summer time (UT + 2).
-    const double reloj = Reloj(2460506.5) + (9 * 60 + 20) / 1440.0;
+    // 15 July 2024, 07:20 UT: 09:20 in zone +1 with summer time (UT + 2).
+    const double reloj = Reloj(2460506.5) + (7 * 60 + 20) / 1440.0;
     e.ZonaHoraria = 1;
     e.HorarioVerano = true;
     Hora h(ctx);
@@ -248,6 +251,42 @@ TEST_F(FormaHora, MediodiaMedianocheYAhoraConVerano) {
     EXPECT_EQ(h.hora(0)->text(), "07:20");
     // Each press went down with sound 6 and came up with 7.
     EXPECT_EQ(f.sonidos.oidos, (std::vector<int>{6, 7, 6, 7, 6, 7}));
+}
+
+// The present is the system's Universal Time, whatever zone the computer
+// keeps: here the computer is at UT + 7 and the observer at UT - 2.
+TEST_F(FormaHora, AhoraNoDependeDeLaZonaDelOrdenador) {
+    const QByteArray tzAntes = qgetenv("TZ");
+    qputenv("TZ", "XST-7");
+    tzset();
+    e.ZonaHoraria = -3;
+    e.HorarioVerano = true;
+    auto utAhora = [] { return QDateTime::currentMSecsSinceEpoch() / 86400000.0 + 2440587.5; };
+    {
+        Hora h(ctx);
+        const double antes = utAhora();
+        h.pulsador(41)->pulsa();
+        const double despues = utAhora();
+        EXPECT_GE(e.FechaJuliana, antes - 0.5 / 1440) << "cut to the minute, never earlier than that";
+        EXPECT_LE(e.FechaJuliana, despues + 0.5 / 1440);
+        // The local row is two hours behind the Universal one.
+        const int uni = h.hora(0)->text().left(2).toInt(), loc = h.hora(1)->text().left(2).toInt();
+        EXPECT_EQ((uni - loc + 24) % 24, 2);
+
+        // Late on 10 March 2024 UT it is already 11 March for an observer at
+        // UT + 2: today's noon is 11 March, 10:00 UT.
+        e.ZonaHoraria = 1;
+        h.setReloj([] { return Reloj(2460379.5) + 23.5 / 24; });
+        h.pulsador(42)->pulsa();
+        EXPECT_NEAR(e.FechaJuliana, 2460380.5 + 10.0 / 24, 1e-9);
+        h.pulsador(43)->pulsa();
+        EXPECT_NEAR(e.FechaJuliana, 2460379.5 + 22.0 / 24, 1e-9);  // 00:00 of 11 March local
+    }
+    if (tzAntes.isNull())
+        qunsetenv("TZ");
+    else
+        qputenv("TZ", tzAntes);
+    tzset();
 }
 
 TEST_F(FormaHora, PasosDeAnoSinAnoCero) {

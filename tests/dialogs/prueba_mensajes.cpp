@@ -2,12 +2,16 @@
 // Esc, closing, and the help button with its topic.
 #include <gtest/gtest.h>
 
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QPointer>
+#include <QScreen>
 #include <QTimer>
 #include <functional>
 
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
+#include "dialogs/Careta.h"
 #include "dialogs/Mensajes.h"
 #include "dialogs/MensajesVentana.h"
 #include "ui/controles/BotonDialogo.h"
@@ -98,6 +102,46 @@ TEST_F(Mensaje, AyudaConSuTemaYAdaptador) {
     MensajesVentana v(e, nullptr);
     CuandoAparezca([](Mensajes& m) { Pulsa(m.botonCancelar()); });
     EXPECT_EQ(v.Mensaje(texto, "Guardar configuraci\xF3n", 2, 2), 0);
+}
+
+// The cover is kept on top: a message shown under it would leave the
+// program waiting for an answer nobody can see. It goes before the message
+// appears, whoever asks.
+TEST_F(Mensaje, LaCaretaSeVaAntesDeCualquierMensaje) {
+    QPointer<QWidget> careta = AbreCareta(e);
+    ASSERT_TRUE(careta && careta->isVisible());
+    bool caretaVisible = true;
+    CuandoAparezca([&](Mensajes& m) {
+        caretaVisible = careta && careta->isVisible();
+        Tecla(&m, Qt::Key_Return);
+    });
+    MuestraMensaje(e, nullptr, texto, "ERROR", 1, 1);
+    EXPECT_FALSE(caretaVisible);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(careta.isNull());
+}
+
+// Centred on the window that asks while it is on the screen; before it is
+// (the start-up), on the screen, and never partly off it.
+TEST_F(Mensaje, CentradoEnLaVentanaOEnLaPantalla) {
+    const QRect util = QGuiApplication::primaryScreen()->availableGeometry();
+    QWidget ventana;
+    ventana.setGeometry(util.left() + 40, util.top() + 30, 300, 200);
+    QPoint centro;
+    auto mira = [&](Mensajes& m) {
+        centro = m.frameGeometry().center();
+        EXPECT_TRUE(util.contains(m.frameGeometry())) << "off the screen";
+        Tecla(&m, Qt::Key_Return);
+    };
+    CuandoAparezca(mira);
+    MuestraMensaje(e, &ventana, texto, "Aviso", 1, 2);
+    EXPECT_LE((centro - util.center()).manhattanLength(), 2);
+
+    ventana.show();
+    ventana.move(util.left() + util.width() / 2 - 100, util.top() + util.height() / 2 - 50);
+    CuandoAparezca(mira);
+    MuestraMensaje(e, &ventana, texto, "Aviso", 1, 2);
+    EXPECT_LE((centro - ventana.frameGeometry().center()).manhattanLength(), 2);
 }
 
 }  // namespace

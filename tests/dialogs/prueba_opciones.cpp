@@ -286,6 +286,24 @@ TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
     EXPECT_NE(m.textos.back().find("nombre.ls1"), std::string::npos);
 }
 
+// A name that leads nowhere is told, with the file, and the situation on
+// the screen stays as it was: the reader is not called.
+TEST_F(Configuraciones, NombreQueNoExisteNoCambiaNada) {
+    CargaGuar d(*ctx);
+    e.FechaJuliana = 2451545.0;
+    e.Zoom = 7.0f;
+    d.nombre()->setText(QStringLiteral("NoExiste"));
+    Pulsa(d.cargar());
+    ASSERT_EQ(m.textos.size(), 1u);
+    EXPECT_EQ(m.textos[0], "No existe un archivo de configuraci\xF3n con ese nombre.\r\n" + e.DirArchivo +
+                               "NoExiste.ls1");
+    EXPECT_EQ(m.titulos[0], "Cargar configuraci\xF3n");
+    EXPECT_DOUBLE_EQ(e.FechaJuliana, 2451545.0);
+    EXPECT_EQ(e.Zoom, 7.0f);
+    EXPECT_FALSE(e.Cambiado);
+    EXPECT_EQ(actualizaciones, 0);
+}
+
 TEST_F(Configuraciones, NombreVacioYCarpetaSinEscritura) {
     CargaGuar d(*ctx);
     d.nombre()->setText(QStringLiteral("   "));
@@ -317,7 +335,8 @@ TEST_F(Configuraciones, BorrarPideConfirmacion) {
 
     d.nombre()->setText(QStringLiteral("noexiste.ls1"));
     Pulsa(d.borrar());
-    EXPECT_EQ(m.textos.back(), "No existe un archivo de configuraci\xF3n con ese nombre.");
+    EXPECT_EQ(m.textos.back(), "No existe un archivo de configuraci\xF3n con ese nombre.\r\n" + e.DirArchivo +
+                                   "noexiste.ls1");
 
     // The switch belongs to the configuration's state.
     Pulsa(d.incluirAnimacion());

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QScreen>
 
 #include "app/Texto1252.h"
 #include "astro/TextosAngulo.h"
@@ -63,8 +65,13 @@ Cielo::Cielo(Estado& e, const Catalogos& c, DialogosCielo dialogos)
     Construye();
     reloj_.setInterval(1000);
     connect(&reloj_, &QTimer::timeout, this, &Cielo::TicTiempoReal);
-    resize(800, 600);
     setMinimumSize(640, 480);
+    // Placed by the program, not left to the window manager: the messages
+    // of the start-up are centred on it before it has been mapped.
+    QRect util(0, 0, 800, 600);
+    if (QScreen* s = QGuiApplication::primaryScreen()) util = s->availableGeometry();
+    resize(std::min(800, util.width()), std::min(600, util.height()));
+    move(util.center() - QPoint(width() / 2, height() / 2));
 }
 
 Cielo::~Cielo() { e_.Sujecion = e_.Enganche = false; }
@@ -232,11 +239,19 @@ void Cielo::RefrescaCampos() {
 }
 
 void Cielo::Abre(const std::function<void(ContextoDialogo&)>& abre, bool cargaConfiguraciones) {
+    // A dialog leaves the situation that a centring saved behind: the
+    // restore button goes, and comes back only if the dialog centres anew.
+    e_.Centrado = false;
     pulsador45_->hide();
     e_.Cambiado = false;
     if (abre) abre(contexto_);
+    // Whatever the dialog changed is on the screen when it closes, even if
+    // it did not redraw itself (the time, the real-time start).
+    if (e_.Cambiado)
+        ActualizaCielo();
+    else
+        Coloca();
     RefrescaCampos();
-    Coloca();
     // A loaded configuration may ask to be animated at once.
     bool animar = e_.AnimarTrasCambio || (cargaConfiguraciones && e_.IncluirAnimacion);
     if (e_.Cambiado && animar) SubBajHaPulsado(5, 35);

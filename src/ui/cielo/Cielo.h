@@ -62,6 +62,7 @@ public:
     QString TextoTiempoReal() const;
     controles::SubBaj* SubBaj(int i) const { return subbaj_[static_cast<std::size_t>(i)]; }
     BotonPanel* Boton(int k) const { return botones_[static_cast<std::size_t>(k)]; }
+    controles::Pulsador* Restaurar() const { return pulsador45_; }  // "Restaurar situación anterior"
 
 protected:
     void resizeEvent(QResizeEvent*) override;

@@ -1,0 +1,224 @@
+// The main window with its real dialogs, driven as a user drives it: every
+// dialog that changes the situation leaves the sky drawn for the new one
+// when it closes, and a configuration name that leads nowhere changes
+// nothing. The picture is compared with one drawn afresh from the state.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <functional>
+
+#include "EntornoQt.h"
+#include "Falsos.h"
+#include "catalogue/CargaCatalogos.h"
+#include "config/EscribeConfiguracion.h"
+#include "dialogs/Animar.h"
+#include "dialogs/CargaGuar.h"
+#include "dialogs/Hora.h"
+#include "dialogs/Locali.h"
+#include "dialogs/Mensajes.h"
+#include "dialogs/Objetos.h"
+#include "dialogs/Personal.h"
+#include "sky/DibujaCielo.h"
+#include "ui/cielo/Cielo.h"
+#include "ui/cielo/VistaCielo.h"
+#include "ui/controles/BotonDialogo.h"
+#include "ui/controles/Interruptor.h"
+#include "ui/controles/Pulsador.h"
+#include "ui/controles/Selector.h"
+
+using namespace vedrano;
+
+namespace {
+
+class Calla : public Notificador {
+public:
+    void Avisa(const std::string&, const std::string&) override {}
+};
+
+const Catalogos& Datos() {
+    static Catalogos c;
+    static bool cargado = [] {
+        Calla calla;
+        CargaCatalogos(VEDRANO_DATOS, c, calla);
+        return true;
+    }();
+    (void)cargado;
+    return c;
+}
+
+void Pulsa(QWidget* w) { pruebas::Clic(w, QPoint(w->width() / 2, w->height() / 2)); }
+
+// Runs `accion` on the first modal window of type T that comes up.
+template <class T>
+void CuandoAparezca(std::function<void(T&)> accion) {
+    auto* t = new QTimer;
+    t->setInterval(5);
+    QObject::connect(t, &QTimer::timeout, [t, accion] {
+        if (auto* d = qobject_cast<T*>(QApplication::activeModalWidget())) {
+            t->stop();
+            t->deleteLater();
+            accion(*d);
+        }
+    });
+    t->start();
+}
+
+class Ventana : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(carpeta.isValid());
+        e.DirArchivo = carpeta.path().toStdString() + "/";
+        e.Velocidad = 100;
+        e.FechaJuliana = 2460700.5;
+        DialogosCielo d;
+        d.CargaGuar = AbreCargaGuar;
+        d.Personal = AbrePersonal;
+        d.Locali = AbreLocali;
+        d.Hora = AbreHora;
+        d.Objetos = AbreObjetos;
+        d.Animar = AbreAnimar;
+        cielo = std::make_unique<Cielo>(e, Datos(), d);
+        cielo->show();
+        cielo->ActualizaCielo();
+    }
+
+    QImage Imagen() const { return cielo->Vista().Canvas().Imagen().copy(); }
+    // The picture of the present state, drawn apart from the window.
+    QImage Fresca() const {
+        Estado copia = e;
+        Lienzo l(cielo->Vista().width(), cielo->Vista().height());
+        ActualizaCielo(copia, Datos(), l);
+        return l.Imagen().copy();
+    }
+
+    pruebas::Falsos falsos;
+    QTemporaryDir carpeta;
+    Estado e;
+    std::unique_ptr<Cielo> cielo;
+};
+
+// 1 March 2025, 12:00 UT, as the system's clock reads it.
+double RelojFijo() { return 2460736.0 - 2415018.5; }
+
+TEST_F(Ventana, LaFechaYHoraDejanElCieloDibujado) {
+    const QImage antes = Imagen();
+    CuandoAparezca<Hora>([](Hora& h) {
+        h.setReloj(RelojFijo);
+        h.pulsador(42)->pulsa();  // today's noon
+        Pulsa(h.botonSalir());
+    });
+    cielo->BotonSoltado(4);
+    EXPECT_DOUBLE_EQ(e.FechaJuliana, 2460736.0);
+    EXPECT_NE(Imagen(), antes);
+    EXPECT_EQ(Imagen(), Fresca());
+}
+
+TEST_F(Ventana, LaAnimacionEnTiempoRealYSinElDejanElCieloDibujado) {
+    const QImage antes = Imagen();
+    CuandoAparezca<Animar>([](Animar& a) {
+        a.setReloj(RelojFijo);
+        pruebas::Clic(a.tiempoReal(), QPoint(5, 5));
+        Pulsa(a.botonSalir());
+    });
+    cielo->PulsadorAccionado(44);
+    EXPECT_TRUE(cielo->TiempoRealActivo());
+    EXPECT_DOUBLE_EQ(e.FechaJuliana, 2460736.0);
+    EXPECT_NE(Imagen(), antes);
+    EXPECT_EQ(Imagen(), Fresca());
+
+    // Switched off, with another unit: the clock stops, the sky stays true.
+    CuandoAparezca<Animar>([](Animar& a) {
+        pruebas::Clic(a.tiempoReal(), QPoint(5, 5));
+        Pulsa(a.botonSalir());
+    });
+    cielo->PulsadorAccionado(44);
+    EXPECT_FALSE(cielo->TiempoRealActivo());
+    EXPECT_EQ(Imagen(), Fresca());
+}
+
+TEST_F(Ventana, LocalizacionObjetosYPersonalizacionDejanElCieloDibujado) {
+    QImage antes = Imagen();
+    CuandoAparezca<Locali>([](Locali& l) {
+        l.eligeLugar(10);
+        Pulsa(l.botonSalir());
+    });
+    cielo->BotonSoltado(3);
+    EXPECT_EQ(e.IndiceLugar, 10);
+    EXPECT_NE(Imagen(), antes);
+    EXPECT_EQ(Imagen(), Fresca());
+
+    antes = Imagen();
+    CuandoAparezca<Objetos>([](Objetos& o) {
+        Pulsa(o.casilla(QStringLiteral("Galaxias")));
+        Pulsa(o.botonSalir());
+    });
+    cielo->BotonSoltado(5);
+    EXPECT_EQ(e.Capas.Galax, 1);
+    EXPECT_NE(Imagen(), antes);
+    EXPECT_EQ(Imagen(), Fresca());
+
+    antes = Imagen();
+    CuandoAparezca<Personal>([](Personal& p) {
+        Pulsa(p.orientacion());
+        Pulsa(p.botonSalir());
+    });
+    cielo->BotonSoltado(2);
+    EXPECT_EQ(e.Orientacion, 2);
+    EXPECT_NE(Imagen(), antes);
+    EXPECT_EQ(Imagen(), Fresca());
+}
+
+// A misspelt name is told and changes nothing; a real one replaces the
+// situation, is drawn, and ends what "Restaurar situación anterior" could
+// restore.
+TEST_F(Ventana, LasConfiguracionesDejanElCieloDibujadoYUnNombreMaloNoCambiaNada) {
+    Estado otro = e;
+    otro.FechaJuliana = 2451545.0;
+    otro.Direccion = 1.0;
+    MensajesVentana m(otro, nullptr);
+    ASSERT_TRUE(EscribeConfiguracion(otro, "Prueba", m, false).escrito);
+
+    e.Centrado = true;  // as a centring leaves it
+    cielo->RefrescaCampos();
+    EXPECT_TRUE(cielo->Restaurar()->isVisible());
+
+    const QImage antes = Imagen();
+    QString aviso;
+    double trasNombreMalo = 0;
+    CuandoAparezca<CargaGuar>([&](CargaGuar& d) {
+        d.nombre()->setText(QStringLiteral("NoExiste.ls1"));
+        CuandoAparezca<Mensajes>([&](Mensajes& msg) {
+            aviso = msg.windowTitle();
+            Pulsa(msg.botonAceptar());
+        });
+        Pulsa(d.cargar());
+        trasNombreMalo = e.FechaJuliana;
+        d.nombre()->setText(QStringLiteral("Prueba"));
+        Pulsa(d.cargar());
+        Pulsa(d.botonSalir());
+    });
+    cielo->BotonSoltado(1);
+    EXPECT_EQ(aviso, QString::fromUtf8("Cargar configuración"));
+    EXPECT_DOUBLE_EQ(trasNombreMalo, 2460700.5);
+    EXPECT_DOUBLE_EQ(e.FechaJuliana, 2451545.0);
+    EXPECT_DOUBLE_EQ(e.Direccion, 1.0);
+    EXPECT_FALSE(cielo->Restaurar()->isVisible());
+    EXPECT_NE(Imagen(), antes);
+    EXPECT_EQ(Imagen(), Fresca());
+}
+
+// Placed by the program in the middle of the screen, so that the start-up
+// messages centred on it are in the middle too.
+TEST_F(Ventana, CentradaEnLaPantalla) {
+    const QRect util = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_LE((cielo->frameGeometry().center() - util.center()).manhattanLength(), 2);
+    EXPECT_LE(cielo->width(), util.width());
+    EXPECT_LE(cielo->height(), util.height());
+}
+
+}  // namespace
