@@ -8,6 +8,8 @@ PAQUETES=(
   qt6-base-dev qt6-multimedia-dev qt6-tools-dev libgl-dev
   libgtest-dev libgmock-dev libbenchmark-dev liberfa-dev
   xvfb xauth poppler-utils
+  fonts-urw-base35 qt6-translations-l10n qt6-svg-dev
+  desktop-file-utils appstream lintian dpkg-dev fakeroot file
 )
 
 faltan=()

@@ -5,6 +5,7 @@
 #pragma once
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "catalogue/Catalogos.h"
 
@@ -41,5 +42,13 @@ inline constexpr int MAX_LINEAS_ESTRELLAS = 1483;
 // declination (a blank before zero or above) and magnitude " 0.0;-0.0".
 // A kind outside 0..3 is a subscript error (9).
 std::string LineaEstrella(const EstrellaNombre& e);
+
+// The designations and names in a line of list `categoria` (0..11, the
+// order of the search form's index), trimmed, the only columns a search
+// looks at: never the coordinates, magnitudes or sizes. A Messier line also
+// gives "M" and its number; an NGC or IC designation also gives its long
+// form ("N224" gives "NGC 224"). A category outside 0..11 gives the whole
+// line.
+std::vector<std::string> NombresDeLinea(int categoria, std::string_view linea);
 
 }  // namespace vedrano

@@ -14,6 +14,7 @@
 #include "app/ErrorEjecucion.h"
 #include "app/Texto1252.h"
 #include "catalogue/CategoriasLista.h"
+#include "catalogue/LineasLista.h"
 #include "dialogs/FiltroLista.h"
 #include "dialogs/Mensajes.h"
 #include "dialogs/ObjetivoBusqueda.h"
@@ -24,6 +25,7 @@
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/ControlDibujado.h"
 #include "ui/controles/Estilo.h"
+#include "ui/controles/Pulsador.h"
 
 namespace vedrano {
 
@@ -37,11 +39,13 @@ constexpr int COLUMNAS_VISIBLES = 92;
 
 QString DesdeUtf8(const char* t) { return QString::fromUtf8(t); }
 
-// A Messier line begins with its number: "M42" finds it.
-QString ClaveMessier(const QString& linea) {
-    const QString numero = linea.trimmed().section(' ', 0, 0);
-    return numero.isEmpty() ? QString() : QStringLiteral("M") + numero;
-}
+// Width of the category column of the lines found across the lists.
+constexpr int ANCHO_CATEGORIA = 23;
+
+const QString VOLVER = QStringLiteral(" Volver al Índice General ");
+const QString BUSCAR = QStringLiteral(" Buscar el objeto elegido ");
+const QString SOLO_CONSULTA =
+    QStringLiteral(" Esta lista es sólo de consulta: sus objetos no se pueden centrar en el cielo ");
 
 }  // namespace
 
@@ -53,6 +57,9 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
 
     titulo_ = new Relieve(DesdeUtf8(TITULO_INDICE), this);
     titulo_->installEventFilter(this);
+    volver_ = new controles::Pulsador(ctx_.e, DesdeUtf8(TITULO_INDICE), this);
+    volver_->setToolTip(VOLVER);
+    connect(volver_, &controles::Pulsador::accionado, this, [this] { muestraIndice(); });
     cabecera_ = new QLabel(this);
     cabecera_->setFont(columnas);
     cabecera_->setTextFormat(Qt::PlainText);
@@ -79,7 +86,9 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
         const auto& lineas = ctx_.c.Listas.*(CATEGORIAS_LISTA[static_cast<std::size_t>(k)].lista);
         for (const std::string& linea : lineas) {
             auto* item = new QListWidgetItem(controles::Texto(linea), l);
-            if (k == 1) item->setData(ROL_CLAVE, ClaveMessier(item->text()));
+            QStringList nombres;
+            for (const std::string& n : NombresDeLinea(k, linea)) nombres << controles::Texto(n);
+            FijaClaves(item, nombres);
         }
         connect(l, &QListWidget::itemDoubleClicked, this, [this] { busca(); });
         connect(l, &QListWidget::currentRowChanged, this, [this] { muestraDia(); });
@@ -89,19 +98,32 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
         listas_[static_cast<std::size_t>(k)] = l;
         pila->addWidget(l, 0, 0);
     }
+    // What the search box finds across every list while the index is shown.
+    hallados_ = new QListWidget(this);
+    VisteLista(hallados_, columnas);
+    hallados_->hide();
+    pila->addWidget(hallados_, 0, 0);
+    connect(hallados_, &QListWidget::itemActivated, this, [this] { abreHallado(); });
+    connect(hallados_, &QListWidget::itemDoubleClicked, this, [this] { abreHallado(); });
     const int ancho = fm.horizontalAdvance(QString(COLUMNAS_VISIBLES, 'M')) + 24;
-    indice_->setMinimumSize(ancho, fm.height() * FILAS_VISIBLES);
     for (QListWidget* l : listas_) l->setMinimumSize(ancho, fm.height() * FILAS_VISIBLES);
+    for (QListWidget* l : {indice_, hallados_}) l->setMinimumSize(ancho, fm.height() * FILAS_VISIBLES);
 
     filtro_ = new QLineEdit(this);
     VisteCampo(filtro_);
     filtro_->setClearButtonEnabled(true);
     filtro_->setPlaceholderText(QStringLiteral("parte de un nombre o código"));
-    filtro_->setToolTip(QStringLiteral(" Escriba parte de un nombre o código; Intro busca la línea elegida "));
-    connect(filtro_, &QLineEdit::textChanged, this, [this](const QString& t) { FiltraLista(listaVisible(), t); });
+    filtro_->setToolTip(QStringLiteral(" Escriba parte de un nombre o código: en el Índice General se busca en "
+                                       "todas las listas; Intro abre o busca la línea elegida "));
+    connect(filtro_, &QLineEdit::textChanged, this, [this](const QString& t) {
+        if (categoria_ < 0)
+            muestraHallados(t);
+        else
+            FiltraLista(listaVisible(), t);
+    });
 
     buscar_ = new BotonDialogo(ctx_.e, BotonDialogo::Tipo::Aceptar, this);
-    buscar_->setToolTip(QStringLiteral(" Buscar el objeto elegido "));
+    buscar_->setToolTip(BUSCAR);
     ayuda_ = new BotonDialogo(ctx_.e, BotonDialogo::Tipo::Ayuda, this);
     ayuda_->setToolTip(QStringLiteral(" Ayuda sobre Buscar objetos "));
     salir_ = new BotonDialogo(ctx_.e, BotonDialogo::Tipo::Salir, this);
@@ -123,7 +145,11 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     auto* caja = new QVBoxLayout(this);
     caja->setContentsMargins(10, 8, 10, 10);
     caja->setSpacing(4);
-    caja->addWidget(titulo_);
+    auto* cabeza = new QHBoxLayout;
+    cabeza->addWidget(titulo_);
+    cabeza->addStretch(1);
+    cabeza->addWidget(volver_);
+    caja->addLayout(cabeza);
     caja->addWidget(cabecera_);
     caja->addLayout(pila, 1);
     caja->addWidget(leyenda_);
@@ -158,17 +184,21 @@ void Buscar::muestraDia() {
 }
 
 QListWidget* Buscar::listaVisible() const {
-    return categoria_ < 0 ? indice_ : listas_[static_cast<std::size_t>(categoria_)];
+    if (categoria_ >= 0) return listas_[static_cast<std::size_t>(categoria_)];
+    return hallados_->isHidden() ? indice_ : hallados_;
 }
 
 void Buscar::muestraIndice() {
     for (QListWidget* l : listas_) l->hide();
+    hallados_->hide();
     categoria_ = -1;
     titulo_->setTexto(DesdeUtf8(TITULO_INDICE));
     titulo_->setToolTip({});
+    volver_->hide();
     cabecera_->hide();
     leyenda_->hide();
     dia_->hide();
+    permiteBuscar(true);
     indice_->setCurrentRow(-1);
     indice_->clearSelection();
     filtro_->blockSignals(true);
@@ -178,14 +208,54 @@ void Buscar::muestraIndice() {
     indice_->show();
 }
 
-void Buscar::eligeCategoria(int categoria) {
+void Buscar::muestraHallados(const QString& filtro) {
+    // Typed while the index is shown: the lines of every list that answer,
+    // each with its category.
+    hallados_->clear();
+    if (filtro.trimmed().isEmpty()) {
+        hallados_->hide();
+        indice_->show();
+        cabecera_->hide();
+        return;
+    }
+    std::vector<const QListWidget*> listas(listas_.begin(), listas_.end());
+    for (const Hallazgo& h : BuscaEnListas(listas, filtro)) {
+        const QString categoria = indice_->item(h.lista)->text();
+        auto* item = new QListWidgetItem(categoria.leftJustified(ANCHO_CATEGORIA) +
+                                             listas_[static_cast<std::size_t>(h.lista)]->item(h.fila)->text(),
+                                         hallados_);
+        item->setData(Qt::UserRole, QPoint(h.lista, h.fila));
+    }
+    cabecera_->setText(DesdeUtf8(CABECERA_HALLADOS));
+    cabecera_->show();
+    indice_->hide();
+    hallados_->show();
+    hallados_->setCurrentRow(hallados_->count() > 0 ? 0 : -1);
+}
+
+void Buscar::abreHallado() {
+    QListWidgetItem* item = hallados_->currentItem();
+    if (!item || hallados_->isHidden()) return;
+    const QPoint donde = item->data(Qt::UserRole).toPoint();
+    eligeCategoria(donde.x(), donde.y());
+}
+
+void Buscar::permiteBuscar(bool si) {
+    buscar_->setEnabled(si);
+    buscar_->setToolTip(si ? BUSCAR : SOLO_CONSULTA);
+}
+
+void Buscar::eligeCategoria(int categoria, int fila) {
     if (categoria < 0 || categoria >= 12) return;
     const TextosCategoria& t = TEXTOS_CATEGORIAS[static_cast<std::size_t>(categoria)];
     indice_->hide();
+    hallados_->hide();
     for (QListWidget* l : listas_) l->hide();
     categoria_ = categoria;
     titulo_->setTexto(indice_->item(categoria)->text());
-    titulo_->setToolTip(QStringLiteral(" Volver al Índice General "));
+    titulo_->setToolTip(VOLVER);
+    volver_->show();
+    permiteBuscar(CategoriaCentrable(categoria));
     cabecera_->setText(DesdeUtf8(t.cabecera));
     cabecera_->show();
     QStringList lineas;
@@ -197,13 +267,21 @@ void Buscar::eligeCategoria(int categoria) {
     filtro_->blockSignals(false);
     QListWidget* l = listas_[static_cast<std::size_t>(categoria)];
     FiltraLista(l, {});
+    if (fila >= 0 && fila < l->count()) {
+        l->setCurrentRow(fila);
+        l->scrollToItem(l->currentItem(), QAbstractItemView::PositionAtCenter);
+    }
     l->show();
     muestraDia();
     filtro_->setFocus();
 }
 
 void Buscar::busca() {
-    if (categoria_ < 0) return;
+    if (categoria_ < 0) {
+        // From the lines found, the search opens the chosen one's list.
+        abreHallado();
+        return;
+    }
     QListWidget* l = listas_[static_cast<std::size_t>(categoria_)];
     QListWidgetItem* item = l->currentItem();
     const int linea = item && item->isSelected() && !item->isHidden() ? l->row(item) : -1;
@@ -247,7 +325,7 @@ void Buscar::keyPressEvent(QKeyEvent* ev) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
             // The search box lets Enter through to here: one search per key.
-            if (categoria_ >= 0) busca();
+            if (categoria_ >= 0 || !hallados_->isHidden()) busca();
             else if (QListWidgetItem* i = indice_->currentItem()) eligeCategoria(indice_->row(i));
             return;
         case Qt::Key_Up:

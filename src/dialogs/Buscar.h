@@ -16,7 +16,8 @@ namespace vedrano {
 
 namespace controles {
 class BotonDialogo;
-}
+class Pulsador;
+}  // namespace controles
 class Relieve;
 
 class Buscar : public QDialog {
@@ -40,7 +41,13 @@ public:
     int categoria() const { return categoria_; }
 
     void muestraIndice();
-    void eligeCategoria(int categoria);
+    // Shows a category's list, on line `fila` when one is given.
+    void eligeCategoria(int categoria, int fila = -1);
+    // The lines of every list found by the search box from the index, each
+    // with its category; choosing one opens its list on that line.
+    QListWidget* hallados() const { return hallados_; }
+    // The button that leads back to the general index.
+    controles::Pulsador* botonIndice() const { return volver_; }
     // Sets the target from the selected line and centres on it.
     void busca();
 
@@ -52,6 +59,10 @@ protected:
 
 private:
     QListWidget* listaVisible() const;
+    void muestraHallados(const QString& filtro);
+    void abreHallado();
+    // The search button in use, or shown out of use with the reason.
+    void permiteBuscar(bool si);
     void muestraDia();
     void sale();
 
@@ -63,6 +74,8 @@ private:
     QLabel* dia_;
     QListWidget* indice_;
     std::array<QListWidget*, 12> listas_{};
+    QListWidget* hallados_;
+    controles::Pulsador* volver_;
     QLineEdit* filtro_;
     controles::BotonDialogo *buscar_, *ayuda_, *salir_;
 };

@@ -14,4 +14,8 @@ namespace vedrano {
 // centring. A line at or above its table's bound raises ErrorEjecucion 9.
 void FijaObjetivo(Estado& e, const Catalogos& c, int categoria, int linea);
 
+// Whether the objects of a category can be centred (the lists 7..11 are for
+// reading only).
+constexpr bool CategoriaCentrable(int categoria) { return categoria >= 0 && categoria <= 6; }
+
 }  // namespace vedrano

@@ -38,5 +38,7 @@ inline const std::array<TextosCategoria, 12> TEXTOS_CATEGORIAS = {{
 }};
 
 inline const char* const TITULO_INDICE = "Índice General";
+// Above the lines found in every list.
+inline const char* const CABECERA_HALLADOS = " Categoría             Línea de su lista";
 
 }  // namespace vedrano

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QSet>
 #include <cmath>
 
 #include "../ui/EntornoQt.h"
@@ -18,6 +19,7 @@
 #include "dialogs/Buscar.h"
 #include "sky/proyeccion/Proyeccion.h"
 #include "ui/controles/BotonDialogo.h"
+#include "ui/controles/Pulsador.h"
 
 using namespace vedrano;
 
@@ -128,6 +130,82 @@ TEST_F(BuscarObjetos, ElFiltroIgnoraAcentosYMayusculas) {
     EXPECT_TRUE(b.isVisible());
 }
 
+int Visibles(QListWidget* l) {
+    int n = 0;
+    for (int i = 0; i < l->count(); ++i) n += !l->item(i)->isHidden();
+    return n;
+}
+
+// M42 is NGC 1976. Written any of the ways people write it, it is found
+// alone: the coordinate columns ("5h 35m 16s", "41m 42s") are never read.
+TEST_F(BuscarObjetos, DesignacionesYNombresNuncaCoordenadas) {
+    Buscar b(d.ctx);
+    b.show();
+    ClicLinea(b.indice(), 1);
+    for (const char* escrito : {"M 42", "M42", "m 42", "NGC 1976"}) {
+        b.filtro()->clear();
+        Escribe(b.filtro(), QString::fromUtf8(escrito));
+        EXPECT_EQ(Visibles(b.lista(1)), 1) << escrito;
+        EXPECT_EQ(b.lista(1)->currentRow(), 41) << escrito;
+    }
+    b.filtro()->clear();
+    Escribe(b.filtro(), QStringLiteral("41m"));
+    EXPECT_EQ(Visibles(b.lista(1)), 0);
+    // Galaxies by their designation, short or long; never by magnitude class.
+    b.muestraIndice();
+    ClicLinea(b.indice(), 4);
+    Escribe(b.filtro(), QStringLiteral("NGC 224"));
+    ASSERT_GE(b.lista(4)->currentRow(), 0);
+    EXPECT_TRUE(b.lista(4)->currentItem()->text().startsWith(QStringLiteral("  N224 ")));
+    for (int i = 0; i < b.lista(4)->count(); ++i)
+        if (!b.lista(4)->item(i)->isHidden())
+            EXPECT_TRUE(b.lista(4)->item(i)->text().startsWith(QStringLiteral("  N224"))) << i;
+}
+
+// Typed on the index, the search looks in every list at once; each line
+// found carries its category, and choosing it opens its list on that line.
+// A button leads back to the index.
+TEST_F(BuscarObjetos, DesdeElIndiceBuscaEnTodasLasListas) {
+    Buscar b(d.ctx);
+    b.show();
+    Escribe(b.filtro(), QStringLiteral("m 42"));
+    ASSERT_TRUE(b.hallados()->isVisible());
+    EXPECT_TRUE(b.indice()->isHidden());
+    ASSERT_GE(b.hallados()->count(), 1);
+    const QString primera = b.hallados()->item(0)->text();
+    EXPECT_TRUE(primera.startsWith(QStringLiteral("Objetos Messier "))) << primera.toStdString();
+    EXPECT_TRUE(primera.contains(QStringLiteral(" 42 1976 "))) << primera.toStdString();
+    Tecla(b.filtro(), Qt::Key_Return);
+    EXPECT_EQ(b.categoria(), 1);
+    EXPECT_EQ(b.lista(1)->currentRow(), 41);
+    EXPECT_EQ(b.titulo(), QStringLiteral("Objetos Messier"));
+    ASSERT_TRUE(b.botonIndice()->isVisible());
+    Pulsa(b.botonIndice());
+    EXPECT_EQ(b.categoria(), -1);
+    EXPECT_TRUE(b.indice()->isVisible());
+    EXPECT_FALSE(b.botonIndice()->isVisible());
+
+    // Orion is a constellation, a Messier nebula's name and part of star
+    // names: each line found says where it comes from.
+    Escribe(b.filtro(), QStringLiteral("orion"));
+    QSet<QString> categorias;
+    for (int i = 0; i < b.hallados()->count(); ++i) categorias << b.hallados()->item(i)->text().left(22).trimmed();
+    EXPECT_TRUE(categorias.contains(QStringLiteral("Constelaciones")));
+    EXPECT_TRUE(categorias.contains(QStringLiteral("Objetos Messier")));
+    int fila = -1;
+    for (int i = 0; i < b.hallados()->count() && fila < 0; ++i)
+        if (b.hallados()->item(i)->text().startsWith(QStringLiteral("Constelaciones"))) fila = i;
+    ClicLinea(b.hallados(), fila, true);
+    EXPECT_EQ(b.categoria(), 2);
+    EXPECT_TRUE(b.lista(2)->currentItem()->text().startsWith(QStringLiteral(" Ori ")));
+    // Emptying the box gives the index back.
+    b.muestraIndice();
+    Escribe(b.filtro(), QStringLiteral("x"));
+    b.filtro()->clear();
+    EXPECT_TRUE(b.indice()->isVisible());
+    EXPECT_TRUE(b.hallados()->isHidden());
+}
+
 TEST_F(BuscarObjetos, CentraEstrellasObjetosYConstelaciones) {
     struct Caso {
         int categoria;
@@ -192,8 +270,16 @@ TEST_F(BuscarObjetos, ListasDeLecturaYTierraNoCentranNada) {
         b.muestraIndice();
         ClicLinea(b.indice(), c);
         ClicLinea(b.lista(c), 0);
+        // The button says why it cannot be used here.
+        EXPECT_FALSE(b.botonBuscar()->isEnabled()) << c;
+        EXPECT_TRUE(b.botonBuscar()->toolTip().contains(QStringLiteral("no se pueden centrar"))) << c;
         Pulsa(b.botonBuscar());
         EXPECT_TRUE(b.isVisible()) << c;
+    }
+    for (int c = 0; c <= 6; ++c) {
+        b.muestraIndice();
+        ClicLinea(b.indice(), c);
+        EXPECT_TRUE(b.botonBuscar()->isEnabled()) << c;
     }
     b.muestraIndice();
     ClicLinea(b.indice(), 0);

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QIcon>
 #include <QThread>
 #include <filesystem>
 #include <iostream>
@@ -24,6 +25,10 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName("VEDRANO");
     QApplication::setApplicationVersion("3.2");
+    QGuiApplication::setDesktopFileName(QStringLiteral("es.vedrano.Vedrano"));
+    QIcon icono;
+    for (int lado : {16, 24, 32, 48, 64, 128, 256}) icono.addFile(QStringLiteral(":/icono/%1x%1.png").arg(lado));
+    QApplication::setWindowIcon(icono);
     AnalisisCli orden = AnalizaArgumentosVentana(QApplication::arguments());
     if (orden.terminar) {
         std::cout << orden.salida << std::flush;

@@ -15,6 +15,8 @@ BotonDialogo::BotonDialogo(Estado& e, Tipo tipo, QWidget* padre)
 void BotonDialogo::pinta(QPainter& p) {
     const int x = celda::BOTON_X0 + celda::BOTON_PASO * static_cast<int>(tipo_);
     CopiaCelda(p, {0, 0}, QRect(x, abajo_ ? celda::BOTON_PULSADO_Y : 0, celda::BOTON_LADO, celda::BOTON_LADO));
+    // Out of use: the picture shows through a veil of the ground's grey.
+    if (!isEnabled()) p.fillRect(rect(), QColor(192, 192, 192, 170));
 }
 
 void BotonDialogo::mousePressEvent(QMouseEvent* ev) {

@@ -14,8 +14,13 @@ Pulsador::Pulsador(Estado& e, int indice, QWidget* padre) : ControlDibujado(e, i
     resize(sizeHint());
 }
 
+Pulsador::Pulsador(Estado& e, const QString& rotulo, QWidget* padre)
+    : ControlDibujado(e, 0, padre), rotulo_(rotulo) {
+    resize(sizeHint());
+}
+
 QSize Pulsador::sizeHint() const {
-    return {std::max(80, QFontMetrics(FuenteControles()).horizontalAdvance(etiqueta()) + 24), celda::CARA_ALTO};
+    return {std::max(80, QFontMetrics(FuenteControles()).horizontalAdvance(rotulo()) + 24), celda::CARA_ALTO};
 }
 
 void Pulsador::dibuja(bool pulsado, bool conSonido) {
@@ -28,7 +33,7 @@ void Pulsador::dibuja(bool pulsado, bool conSonido) {
 
 void Pulsador::pinta(QPainter& p) {
     DibujaCara(p, width(), pulsado_);
-    const QString texto = etiqueta();
+    const QString texto = rotulo();
     const int ancho = QFontMetrics(FuenteControles()).horizontalAdvance(texto);
     // A pressed face moves its label with it.
     const int d = pulsado_ ? 1 : 0;

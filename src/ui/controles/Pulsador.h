@@ -14,6 +14,8 @@ class Pulsador : public ControlDibujado {
 public:
     // The label is entry `indice` of the label table.
     Pulsador(Estado& e, int indice, QWidget* padre = nullptr);
+    // A button of the same look whose label is not in the table.
+    Pulsador(Estado& e, const QString& rotulo, QWidget* padre = nullptr);
 
     // Draws the face pressed or released, recording its face row in the
     // state; with sound, 6 going down (then the pause) and 7 coming up.
@@ -34,6 +36,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent* ev) override;
 
 private:
+    QString rotulo() const { return rotulo_.isEmpty() ? etiqueta() : rotulo_; }
+
+    QString rotulo_;
     bool pulsado_ = false;
     int sonidoUnico_ = 0;
 };
