@@ -9,6 +9,7 @@
 #include "app/Formato.h"
 #include "app/TablasControles.h"
 #include "app/Texto1252.h"
+#include "platform/NumerosLocales.h"
 #include "ui/controles/Estilo.h"
 
 namespace vedrano::controles {
@@ -56,7 +57,8 @@ void Spin::setValor(float v) {
 }
 
 void Spin::muestra() {
-    const std::string texto = formateador_ ? formateador_(valor_) : Formato(valor_, FormatoIndice(indice_).Formato);
+    const std::string texto =
+        formateador_ ? formateador_(valor_) : plataforma::NumeroLocal(Formato(valor_, FormatoIndice(indice_).Formato));
     campo_->setText(Texto(texto));
     campo_->repaint();
 }
