@@ -20,6 +20,7 @@ struct OpcionesCli {
     bool estrellasDebiles = false;  // dibuja --estrellas-debiles
     QString lee, escribe, muestras;  // configuracion
     QString categoria;  // lista: the words of the category, joined by blanks
+    bool precisionAlta = false;  // calcula, dibuja: --precision alta
 };
 
 // The outcome of reading the command line. When `terminar` is set the

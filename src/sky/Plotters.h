@@ -35,7 +35,7 @@ void AjustaTrazo(Contexto& x, const PuntoProyectado& p, int16_t& estiloRecordado
 int CuentaNivel(const TablaCuentas& t, int nivel);
 
 // The sky background from the Sun's altitude.
-QColor ColorLuzDiurna(Estado& e);
+QColor ColorLuzDiurna(Estado& e, const Catalogos& c);
 void DibujaRejilla(Contexto& x, int pasoGrados);
 void DibujaLimites(Contexto& x);
 void DibujaHorizonte(Contexto& x);

@@ -6,6 +6,7 @@
 #include "app/Aritmetica.h"
 #include "app/Constantes.h"
 #include "astro/Precesion.h"
+#include "astro/PrecisionAlta.h"
 
 namespace vedrano {
 
@@ -41,6 +42,21 @@ PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h) {
     return {static_cast<float>(X3), static_cast<float>(Y4), static_cast<float>(Z4)};
 }
 
+namespace {
+
+// The precise model lifts every direction by the atmosphere's refraction
+// (x west, y north, z zenith).
+void Refracta(Vector3f& h) {
+    double horizontal = std::hypot(double{h.x}, double{h.y});
+    if (horizontal < 1e-9) return;
+    double altura = std::atan2(double{h.z}, horizontal);
+    double nueva = altura + Refraccion(altura);
+    double k = std::cos(nueva) / horizontal;
+    h = {static_cast<float>(h.x * k), static_cast<float>(h.y * k), static_cast<float>(std::sin(nueva))};
+}
+
+}  // namespace
+
 PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v) {
     AplicaPrecesion(e, v);
     return ProyectaPuntoFecha(e, v);
@@ -51,7 +67,9 @@ PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v) {
 // longitudes of date. Precessing them once more drew the Sun 0.7 degrees off
 // near 2000 and tens of degrees off in antiquity, so they skip that step.
 PuntoProyectado ProyectaPuntoFecha(const Estado& e, const Vector3f& v) {
-    return ProyectaHorizontal(e, EcuatorialAHorizontal(e, v));
+    Vector3f h = EcuatorialAHorizontal(e, v);
+    if (e.Pref.PrecisionAlta) Refracta(h);
+    return ProyectaHorizontal(e, h);
 }
 
 namespace {
@@ -85,8 +103,8 @@ void ConstruyeMatriz(const Estado& e, int desde, bool precesion, double m[3][3])
     }
 }
 
-void PreparaDerivados(const Estado& e) {
-    if (e.Precesion) PreparaPrecesion(e);
+void PreparaDerivados(const Estado& e, bool precesa) {
+    if (precesa) PreparaPrecesion(e);
     PreparaHorizonte(e);
     Vista(e);
 }
@@ -96,14 +114,16 @@ void PreparaDerivados(const Estado& e) {
 // products each.
 const DerivadosRotacion& Cadena(const Estado& e) {
     DerivadosRotacion& r = e.Derivados;
-    double claves[7] = {e.PrecZeta, e.PrecZ, e.PrecTheta, e.TiempoSidereo, e.Latitud, e.DireccionGirada, e.Elevacion};
-    bool igual = r.completaLista && r.conPrecesion == e.Precesion;
-    for (int i = 0; i < 7 && igual; ++i) igual = r.claves[i] == claves[i];
+    const bool precesa = PrecesaCatalogo(e);
+    double claves[8] = {e.PrecZeta, e.PrecZ, e.PrecTheta, e.TiempoSidereo, e.Latitud, e.DireccionGirada, e.Elevacion,
+                        e.Pref.PrecisionAlta ? e.FechaJuliana : -1.0};
+    bool igual = r.completaLista && r.conPrecesion == precesa;
+    for (int i = 0; i < 8 && igual; ++i) igual = r.claves[i] == claves[i];
     if (igual) return r;
-    PreparaDerivados(e);
-    ConstruyeMatriz(e, 0, e.Precesion, r.m);
-    for (int i = 0; i < 7; ++i) r.claves[i] = claves[i];
-    r.conPrecesion = e.Precesion;
+    PreparaDerivados(e, precesa);
+    ConstruyeMatriz(e, 0, precesa, r.m);
+    for (int i = 0; i < 8; ++i) r.claves[i] = claves[i];
+    r.conPrecesion = precesa;
     r.completaLista = true;
     return r;
 }
@@ -111,6 +131,8 @@ const DerivadosRotacion& Cadena(const Estado& e) {
 }  // namespace
 
 PuntoProyectado ProyectaPunto(const Estado& e, Vector3f v) {
+    // Refraction is no rotation: the precise model goes step by step.
+    if (e.Pref.PrecisionAlta) return ProyectaPuntoRef(e, v);
     const DerivadosRotacion& r = Cadena(e);
     return {static_cast<float>(r.m[0][0] * v.x + r.m[0][1] * v.y + r.m[0][2] * v.z),
             static_cast<float>(r.m[1][0] * v.x + r.m[1][1] * v.y + r.m[1][2] * v.z),
