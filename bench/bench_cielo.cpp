@@ -76,11 +76,14 @@ OpcionesDibujo Opciones() {
     return o;
 }
 
+// Arguments: the picture's width and height, and 0 for the classic model,
+// 1 for the precise one.
 void BM_PasadaCompleta(benchmark::State& st) {
     Aplicacion();
     const Catalogos& c = Datos();
     Lienzo l(static_cast<int>(st.range(0)), static_cast<int>(st.range(1)));
     Estado e = TodoEncendido();
+    e.Pref.PrecisionAlta = st.range(2) != 0;
     ActualizaCielo(e, c, l);
     OpcionesDibujo o = Opciones();
     for (auto _ : st) {
@@ -89,7 +92,11 @@ void BM_PasadaCompleta(benchmark::State& st) {
     }
     st.counters["rotulos"] = l.Rotulos().Dibujados();
 }
-BENCHMARK(BM_PasadaCompleta)->Args({1024, 768})->Args({1920, 1080})->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_PasadaCompleta)
+    ->Args({1024, 768, 0})
+    ->Args({1920, 1080, 0})
+    ->Args({1024, 768, 1})
+    ->Unit(benchmark::kMillisecond);
 
 const EstrellasProfundas& Profundas() {
     static EstrellasProfundas p;
