@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QDialog>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -92,6 +93,7 @@ void Cielo::Construye() {
     vista_ = new VistaCielo(e_, c_, mensajes_, this);
     vista_->setFocusPolicy(Qt::StrongFocus);
     vista_->setAccessibleName(QStringLiteral("Cielo"));
+    connect(vista_, &VistaCielo::ObjetoPedido, this, &Cielo::InformaObjeto);
     connect(vista_, &VistaCielo::Dibujado, this, &Cielo::RefrescaCampos);
     connect(vista_, &VistaCielo::VistaCentrada, this, [this] {
         RefrescaCampos();
@@ -348,6 +350,11 @@ void Cielo::keyPressEvent(QKeyEvent* ev) {
         case Qt::Key_Space:
             if (!ev->isAutoRepeat()) PasoTecla(5, e_.PasoDias < 0 ? -1 : 1);
             return;
+        case Qt::Key_I: {
+            const QPoint p = vista_->mapFromGlobal(QCursor::pos());
+            if (vista_->rect().contains(p)) InformaObjeto(vista_->ObjetoEn(p));
+            return;
+        }
         default: QWidget::keyPressEvent(ev);
     }
 }
@@ -368,6 +375,12 @@ void Cielo::Atajos() {
         auto* s = new QShortcut(a.teclas, this);
         connect(s, &QShortcut::activated, this, a.accion);
     }
+}
+
+void Cielo::InformaObjeto(const ObjetoSenalado& objeto) {
+    if (objeto.clase == ClaseObjeto::Ninguno || !dialogos_.Informacion) return;
+    e_.Sujecion = e_.Enganche = false;  // as every form does, it stops the animation
+    dialogos_.Informacion(contexto_, objeto);
 }
 
 void Cielo::AyudaContexto() {
