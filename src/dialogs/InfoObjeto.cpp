@@ -52,6 +52,7 @@ InfoObjeto::InfoObjeto(ContextoDialogo& ctx, const ObjetoSenalado& objeto) : QDi
     pie->addWidget(salir_);
     caja->addSpacing(6);
     caja->addLayout(pie);
+    setMinimumWidth(340);
 }
 
 void InfoObjeto::paintEvent(QPaintEvent*) { PintaFondoForma(this); }

@@ -124,7 +124,10 @@ std::vector<std::string> TextosDia(const DiaObjeto& d) {
     } else if (h.visibilidad == Visibilidad::NoSale) {
         l.push_back("Salida y puesta: no sale");
     } else {
-        l.push_back("Salida: " + Hora(d, h.orto) + "    Puesta: " + Hora(d, h.ocaso));
+        // In the order of the day: a body that set in the morning rises later.
+        const bool antes = !h.orto.hay || !h.ocaso.hay || h.orto.jd <= h.ocaso.jd;
+        const std::string salida = "Salida: " + Hora(d, h.orto), puesta = "Puesta: " + Hora(d, h.ocaso);
+        l.push_back(antes ? salida + "    " + puesta : puesta + "    " + salida);
     }
     if (h.transito.hay)
         l.push_back("Tr\xE1nsito: " + Hora(d, h.transito) + "  a " + Limpio(TextoSexagesimal(h.alturaTransito)));

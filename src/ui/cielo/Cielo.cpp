@@ -369,6 +369,7 @@ void Cielo::Atajos() {
         {QKeySequence(Qt::CTRL | Qt::Key_O), [this] { BotonSoltado(1); }},
         {QKeySequence(Qt::CTRL | Qt::Key_S), [this] { BotonSoltado(1); }},
         {QKeySequence(Qt::CTRL | Qt::Key_P), [this] { BotonSoltado(7); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { BotonSoltado(9); }},
         {QKeySequence(Qt::Key_F11), [this] { isFullScreen() ? showNormal() : showFullScreen(); }},
     };
     for (const Atajo& a : atajos) {
