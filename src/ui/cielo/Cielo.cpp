@@ -107,6 +107,9 @@ void Cielo::Construye() {
         auto* b = new BotonPanel(e_, k, QString::fromUtf8(BOTONES[k].ayuda), panelBotones_);
         b->move(BOTONES[k].izquierda, BOTONES[k].arriba);
         connect(b, &BotonPanel::soltado, this, &Cielo::BotonSoltado);
+        // The tooltips keep their texts; the keys go to the screen reader.
+        static const char* const teclas[10] = {"", "Ctrl+O, Ctrl+S", "", "", "", "", "Ctrl+F", "Ctrl+P", "F1", "Ctrl+Q"};
+        if (*teclas[k]) b->setAccessibleDescription(QStringLiteral("Teclas: ") + QString::fromLatin1(teclas[k]));
         botones_[static_cast<std::size_t>(k)] = b;
     }
 
