@@ -15,6 +15,7 @@
 #include "sky/Lienzo.h"
 #include "sky/OpcionesDibujo.h"
 #include "sky/apunta/Apunta.h"
+#include "sky/apunta/ObjetoBajo.h"
 
 namespace vedrano {
 
@@ -32,11 +33,14 @@ public:
     OpcionesDibujo& Opciones() { return opciones_; }
     // Screen pixel to the picture's user scale.
     QPointF AUsuario(const QPointF& pixel) const;
+    // The object drawn under a pixel (within a few pixels).
+    ObjetoSenalado ObjetoEn(const QPointF& pixel) const;
 
 signals:
     void CursorMovido(const TextosCursor& textos);
     void VistaCentrada();  // a click centred the view: the panels must follow
     void VistaGirada();    // a drag or the wheel changed direction, elevation or zoom
+    void ObjetoPedido(const ObjetoSenalado& objeto);  // Ctrl and a click on an object
     void Dibujado();       // a pass finished: the information fields can be refreshed
 
 protected:
@@ -46,6 +50,7 @@ protected:
     void mousePressEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
     void wheelEvent(QWheelEvent*) override;
+    bool event(QEvent* ev) override;  // the tooltip of the object under the pointer
 
 private:
     void DibujaMarca(const QPointF& pixel);
