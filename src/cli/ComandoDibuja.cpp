@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageWriter>
+#include <QPainter>
+#include <QSvgGenerator>
 #include <filesystem>
 #include <iostream>
 #include <string>
@@ -44,6 +46,28 @@ bool Codifica(const QImage& imagen, const QString& nombre, QByteArray& bytes) {
     return escritor.write(imagen);
 }
 
+// The sky as an SVG drawing: every line, disc and label a vector element.
+QByteArray Svg(const Estado& estado, const Catalogos& c, int ancho, int alto) {
+    Estado e = estado;
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QSvgGenerator svg;
+    svg.setOutputDevice(&buffer);
+    svg.setSize(QSize(ancho, alto));
+    svg.setViewBox(QRect(0, 0, ancho, alto));
+    svg.setResolution(96);  // one pixel a CSS pixel
+    svg.setTitle(QStringLiteral("Cielo"));
+    svg.setDescription(QStringLiteral("VEDRANO"));
+    QPainter p(&svg);
+    {
+        Lienzo lienzo(p, ancho, alto, false);
+        ActualizaCielo(e, c, lienzo);
+    }
+    p.end();
+    return bytes;
+}
+
 }  // namespace
 
 int ComandoDibuja(int argc, char** argv, const OpcionesCli& o) {
@@ -81,12 +105,16 @@ int ComandoDibuja(int argc, char** argv, const OpcionesCli& o) {
         return 0;
     }
 
-    Lienzo lienzo(o.ancho, o.alto);
-    ActualizaCielo(e, catalogos, lienzo);
     QByteArray bytes;
-    if (!Codifica(lienzo.Imagen(), o.salida, bytes)) {
-        std::cerr << "vedrano-cli dibuja: formato de imagen desconocido: " << salida << "\n";
-        return 1;
+    if (o.salida.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive)) {
+        bytes = Svg(e, catalogos, o.ancho, o.alto);
+    } else {
+        Lienzo lienzo(o.ancho, o.alto);
+        ActualizaCielo(e, catalogos, lienzo);
+        if (!Codifica(lienzo.Imagen(), o.salida, bytes)) {
+            std::cerr << "vedrano-cli dibuja: formato de imagen desconocido: " << salida << "\n";
+            return 1;
+        }
     }
     if (int error = EscribeArchivoEntero(salida, std::string_view(bytes.constData(), bytes.size())); error != 0) {
         std::cerr << "vedrano-cli dibuja: no se puede escribir la imagen en " << salida << ": "

@@ -1,6 +1,8 @@
 #include "dialogs/Ayuda.h"
 
 #include <QApplication>
+#include <QPointer>
+#include <algorithm>
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QTextBrowser>
@@ -18,7 +20,8 @@ QString PaginaAyuda(int t) {
         {tema::INDICE, "indice"},     {tema::GENERAL, "general"},   {tema::CIELO, "cielo"},
         {tema::CARGAGUAR, "cargaguar"}, {tema::PERSONAL, "personal"}, {tema::LOCALI, "locali"},
         {tema::HORA, "hora"},         {tema::OBJETOS, "objetos"},   {tema::BUSCAR, "buscar"},
-        {tema::IMPRESOR, "impresor"}, {tema::ANIMAR, "animar"},
+        {tema::IMPRESOR, "impresor"}, {tema::ANIMAR, "animar"},     {tema::TECLADO, "teclado"},
+        {tema::ORDENES, "ordenes"},   {tema::ARCHIVOS, "archivos"},
     };
     auto it = paginas.find(t);
     return QStringLiteral("qrc:/ayuda/%1.html").arg(QString::fromLatin1(it == paginas.end() ? "indice" : it->second));
@@ -26,7 +29,9 @@ QString PaginaAyuda(int t) {
 
 VentanaAyuda::VentanaAyuda(Estado& e, QWidget* padre, int t)
     : QDialog(padre, Qt::Dialog), visor_(new QTextBrowser) {
-    setModal(true);
+    setModal(false);
+    setAccessibleName(QStringLiteral("Ayuda de VEDRANO"));
+    visor_->setAccessibleName(QStringLiteral("Página de ayuda"));
     setWindowTitle(QStringLiteral("Ayuda de VEDRANO"));
     setFont(FuenteControles());
     QPalette pal = palette();
@@ -41,7 +46,7 @@ VentanaAyuda::VentanaAyuda(Estado& e, QWidget* padre, int t)
 
     auto* salir = new BotonDialogo(e, BotonDialogo::Tipo::Salir, this);
     salir->setToolTip(QStringLiteral(" Salir de la Ayuda "));
-    connect(salir, &BotonDialogo::pulsado, this, &QDialog::accept);
+    connect(salir, &BotonDialogo::pulsado, this, &QDialog::close);
 
     auto* botones = new QHBoxLayout;
     botones->addStretch(1);
@@ -53,15 +58,45 @@ VentanaAyuda::VentanaAyuda(Estado& e, QWidget* padre, int t)
     resize(640, 520);
 }
 
-void MuestraAyuda(Estado& e, QWidget* padre, int t) {
-    // Over the form that asked, which is modal itself when it is a dialog.
-    if (QWidget* modal = QApplication::activeModalWidget()) padre = modal;
-    VentanaAyuda v(e, padre, t);
-    if (padre) {
-        const QRect sobre = padre->window()->frameGeometry();
-        v.move(sobre.center() - QPoint(v.width() / 2, v.height() / 2));
+void VentanaAyuda::muestraTema(int t) { visor_->setSource(QUrl(PaginaAyuda(t))); }
+
+VentanaAyuda* MuestraAyuda(Estado& e, QWidget* padre, int t) {
+    static QPointer<VentanaAyuda> ventana;
+    QPointer<QWidget> principal = padre ? padre->window() : nullptr;
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* dueno = modal ? modal : principal.data();
+    const bool nueva = !ventana;
+    if (nueva) {
+        ventana = new VentanaAyuda(e, dueno, t);
+    } else {
+        ventana->muestraTema(t);
+        if (ventana->parentWidget() != dueno) {
+            const QPoint sitio = ventana->pos();
+            ventana->setParent(dueno, ventana->windowFlags());
+            ventana->move(sitio);
+        }
     }
-    v.exec();
+    if (auto* forma = qobject_cast<QDialog*>(modal)) {
+        QPointer<VentanaAyuda> v = ventana;
+        QObject::connect(forma, &QDialog::finished, v, [v, principal] {
+            if (!v || v->parentWidget() == principal) return;
+            const QPoint sitio = v->pos();
+            const bool visible = v->isVisible();
+            v->setParent(principal, v->windowFlags());
+            v->move(sitio);
+            if (visible) v->show();
+        });
+    }
+    if (nueva && principal) {
+        // Beside the sky: over the right-hand part of the main window,
+        // leaving its panels and most of the picture in view.
+        const QRect sobre = principal->frameGeometry();
+        ventana->move(std::max(sobre.left(), sobre.right() - ventana->width() - 8), sobre.top() + 40);
+    }
+    ventana->show();
+    ventana->raise();
+    ventana->activateWindow();
+    return ventana;
 }
 
 }  // namespace vedrano

@@ -1,6 +1,7 @@
 // The program's help: Spanish pages kept among the resources, one per form
 // and one for the general description, found by topic number and shown in
-// a help window of the program's own.
+// a help window of the program's own. The window is not modal: it stays
+// beside the sky while the user goes on working.
 #pragma once
 #include <QDialog>
 #include <QString>
@@ -24,6 +25,9 @@ constexpr int OBJETOS = 1080;
 constexpr int BUSCAR = 1090;
 constexpr int IMPRESOR = 1100;
 constexpr int ANIMAR = 1110;
+constexpr int TECLADO = 1120;
+constexpr int ORDENES = 1130;   // the command-line tool
+constexpr int ARCHIVOS = 1140;  // where the program keeps its files
 }  // namespace tema
 
 // The page of a topic ("qrc:/ayuda/....html"); an unknown topic gives the
@@ -35,13 +39,16 @@ class VentanaAyuda : public QDialog {
 public:
     VentanaAyuda(Estado& e, QWidget* padre, int tema);
     QTextBrowser* visor() const { return visor_; }
+    void muestraTema(int tema);
 
 private:
     QTextBrowser* visor_;
 };
 
-// Shows the help at `tema`, modal over `padre` (the main window or the
-// form whose help button was pressed), until the user leaves it.
-void MuestraAyuda(Estado& e, QWidget* padre, int tema);
+// Shows the help at `tema` in the one help window, beside `padre` (the
+// main window), and returns at once. While a form is open the window
+// belongs to that form, the only one the user can reach then, and it comes
+// back to the main window when the form closes.
+VentanaAyuda* MuestraAyuda(Estado& e, QWidget* padre, int tema);
 
 }  // namespace vedrano

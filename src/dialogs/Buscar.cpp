@@ -72,6 +72,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     dia_->setAccessibleName(QStringLiteral("Salida, tránsito y puesta"));
 
     indice_ = new QListWidget(this);
+    indice_->setAccessibleName(DesdeUtf8(TITULO_INDICE));
     VisteLista(indice_, columnas);
     for (const CategoriaLista& cat : CATEGORIAS_LISTA)
         if (cat.lista != &ListasCatalogo::Lugares) indice_->addItem(controles::Texto(cat.nombre));
@@ -83,6 +84,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     pila->addWidget(indice_, 0, 0);
     for (int k = 0; k < 12; ++k) {
         auto* l = new QListWidget(this);
+        l->setAccessibleName(controles::Texto(CATEGORIAS_LISTA[static_cast<std::size_t>(k)].nombre));
         VisteLista(l, columnas);
         const auto& lineas = ctx_.c.Listas.*(CATEGORIAS_LISTA[static_cast<std::size_t>(k)].lista);
         for (const std::string& linea : lineas) {
@@ -101,6 +103,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     }
     // What the search box finds across every list while the index is shown.
     hallados_ = new QListWidget(this);
+    hallados_->setAccessibleName(QStringLiteral("Objetos hallados"));
     VisteLista(hallados_, columnas);
     hallados_->hide();
     pila->addWidget(hallados_, 0, 0);
@@ -111,6 +114,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     for (QListWidget* l : {indice_, hallados_}) l->setMinimumWidth(ancho);
 
     filtro_ = new QLineEdit(this);
+    filtro_->setAccessibleName(QStringLiteral("Buscar"));
     VisteCampo(filtro_);
     filtro_->setClearButtonEnabled(true);
     filtro_->setPlaceholderText(QStringLiteral("parte de un nombre o código"));

@@ -58,6 +58,8 @@ CargaGuar::CargaGuar(ContextoDialogo& ctx)
       borrar_(new Pulsador(ctx.e, 50)),
       animacion_(new Interruptor(ctx.e, 10)) {
     Estado& e = ctx.e;
+    lista_->setAccessibleName(QStringLiteral("Configuraciones"));
+    nombre_->setAccessibleName(QStringLiteral("Nombre de la configuración"));
 
     auto* archivos = new Grupo("Configuraciones");
     Estiliza(lista_);

@@ -56,6 +56,10 @@ Hora::Hora(ContextoDialogo& ctx)
         fila->addWidget(campos_[k][HORA]);
         grupo->contenido()->addLayout(fila);
         filaTiempos->addWidget(grupo);
+        const char* const partes[4] = {"día", "mes", "año", "hora"};
+        for (int parte = DIA; parte <= HORA; ++parte)
+            campos_[k][parte]->setAccessibleName(QString::fromUtf8(titulos[k]) + QStringLiteral(": ") +
+                                                 QString::fromUtf8(partes[parte]));
         for (int parte = DIA; parte <= HORA; ++parte)
             connect(campos_[k][parte], &QLineEdit::editingFinished, this,
                     [this, k, parte] { validaFecha(k, static_cast<Parte>(parte)); });
@@ -67,6 +71,7 @@ Hora::Hora(ContextoDialogo& ctx)
     filaDatos->setSpacing(6);
     filaDatos->addWidget(new Rotulo("Dia Juliano..:"));
     juliano_ = nuevoCampo(15, Qt::AlignRight);
+    juliano_->setAccessibleName(QStringLiteral("Día juliano"));
     connect(juliano_, &QLineEdit::editingFinished, this, &Hora::validaJuliano);
     filaDatos->addWidget(juliano_);
     filaDatos->addStretch(1);

@@ -69,6 +69,7 @@ Locali::Locali(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     setFont(controles::FuenteControles());
 
     lugares_ = new QListWidget(this);
+    lugares_->setAccessibleName(QStringLiteral("Lugares"));
     VisteLista(lugares_, FuenteColumnas());  // the country codes line up
     for (const std::string& l : ctx_.c.Listas.Lugares) lugares_->addItem(controles::Texto(l));
     lugares_->setMinimumWidth(QFontMetrics(FuenteColumnas()).horizontalAdvance(QString(20, 'M')) + 30);
@@ -76,6 +77,7 @@ Locali::Locali(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     connect(lugares_, &QListWidget::itemActivated, this, [this](QListWidgetItem* i) { eligeLugar(lugares_->row(i)); });
 
     filtro_ = new QLineEdit(this);
+    filtro_->setAccessibleName(QStringLiteral("Buscar lugar"));
     VisteCampo(filtro_);
     filtro_->setClearButtonEnabled(true);
     filtro_->setToolTip(QStringLiteral(" Escriba parte del nombre o del código del país; Intro elige el lugar "));

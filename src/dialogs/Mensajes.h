@@ -37,6 +37,7 @@ public:
     controles::Pulsador* botonAceptar() const { return aceptar_; }
     controles::Pulsador* botonCancelar() const { return cancelar_; }  // null for set 1
     controles::BotonDialogo* botonAyuda() const { return ayuda_; }    // null without a topic
+    int16_t tema() const { return tema_; }
 
 protected:
     void paintEvent(QPaintEvent*) override;

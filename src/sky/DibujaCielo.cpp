@@ -6,6 +6,7 @@
 #include "astro/Planetas.h"
 #include "astro/TextosAngulo.h"
 #include "astro/Tiempo.h"
+#include "platform/NumerosLocales.h"
 #include "sky/Plotters.h"
 #include "sky/proyeccion/Proyeccion.h"
 
@@ -33,16 +34,13 @@ void ActualizaPanel(Estado& e) {
     PanelInformacion& p = e.Panel;
     p.Direccion = " Direcci\xF3n = " + TextoDireccion(e.Direccion, &e);
     p.Elevacion = " Elevaci\xF3n = " + TextoGrados(e.Elevacion, &e);
-    std::string zoom = Formato(e.Zoom, "#0.0");
-    for (char& ch : zoom)
-        if (ch == '.') ch = ',';
-    p.Zoom = " Zoom = " + zoom;
+    p.Zoom = " Zoom = " + plataforma::NumeroLocal(Formato(e.Zoom, "#0.0"));
     MuestraFechas(e);
     p.FechaUniversal = "T. U. = " + e.Fechas[0].Dia + " / " + e.Fechas[0].Mes + " / " + e.Fechas[0].Ano;
     p.HoraUniversal = e.Fechas[0].Hora;
     p.FechaLocal = "F. L. = " + e.Fechas[1].Dia + " / " + e.Fechas[1].Mes + " / " + e.Fechas[1].Ano;
     p.HoraLocal = " " + e.Fechas[1].Hora;
-    p.DiaJuliano = "D. J. = " + e.TextoDiaJuliano;
+    p.DiaJuliano = "D. J. = " + plataforma::NumeroLocal(e.TextoDiaJuliano);
 }
 
 void AjustaEscalaLienzo(Estado& e, Lienzo& l) {

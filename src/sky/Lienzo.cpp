@@ -12,21 +12,55 @@ QColor ColorVB(unsigned long bgr) {
                   static_cast<int>((bgr >> 16) & 0xFF));
 }
 
-Lienzo::Lienzo(int ancho, int alto) {
-    QFont f("DejaVu Sans");
-    f.setPixelSize(11);
-    Redimensiona(ancho, alto);
-    FijaFuente(f);
+QColor ColorParaTinta(const QColor& c) {
+    QColor h = c.toHsl();
+    h.setHsl(h.hslHue(), h.hslSaturation(), 255 - h.lightness());
+    return h.toRgb();
 }
 
-void Lienzo::Redimensiona(int ancho, int alto) {
-    pintor_.reset();
-    imagen_ = QImage(ancho, alto, QImage::Format_RGB32);
-    imagen_.fill(fondo_);
-    pintor_ = std::make_unique<QPainter>(&imagen_);
+namespace {
+
+QFont FuenteCielo() {
+    QFont f("DejaVu Sans");
+    f.setPixelSize(11);
+    return f;
+}
+
+}  // namespace
+
+Lienzo::Lienzo(int ancho, int alto, double proporcion) {
+    Redimensiona(ancho, alto, proporcion);
+    FijaFuente(FuenteCielo());
+}
+
+Lienzo::Lienzo(QPainter& pintor, int ancho, int alto, bool paraTinta)
+    : pintor_(&pintor), vectorial_(true), paraTinta_(paraTinta), ancho_px_(ancho), alto_px_(alto) {
+    PreparaPintor();
+    Escala(izquierda_, superior_, ancho_, alto_);
+    FijaFuente(FuenteCielo());
+    Cls();
+}
+
+void Lienzo::PreparaPintor() {
     pintor_->setRenderHint(QPainter::Antialiasing, true);
     pintor_->setRenderHint(QPainter::TextAntialiasing, true);
     pintor_->setFont(fuente_);
+}
+
+void Lienzo::Redimensiona(int ancho, int alto, double proporcion) {
+    propio_.reset();
+    ancho_px_ = ancho;
+    alto_px_ = alto;
+    // Device pixels behind each logical one; the painter keeps drawing in
+    // logical pixels and Qt scales lines, dots and text sharply.
+    imagen_ = QImage(static_cast<int>(std::lround(ancho * proporcion)),
+                     static_cast<int>(std::lround(alto * proporcion)), QImage::Format_RGB32);
+    imagen_.setDevicePixelRatio(proporcion);
+    imagen_.fill(fondo_);
+    propio_ = std::make_unique<QPainter>(&imagen_);
+    pintor_ = propio_.get();
+    sprites_.clear();
+    PreparaPintor();
     Escala(izquierda_, superior_, ancho_, alto_);
 }
 
@@ -35,8 +69,8 @@ void Lienzo::Escala(float izquierda, float superior, float ancho, float alto) {
     superior_ = superior;
     ancho_ = ancho;
     alto_ = alto;
-    sx_ = imagen_.width() / static_cast<double>(ancho_);
-    sy_ = imagen_.height() / static_cast<double>(alto_);
+    sx_ = ancho_px_ / static_cast<double>(ancho_);
+    sy_ = alto_px_ / static_cast<double>(alto_);
 }
 
 QPointF Lienzo::APixel(double x, double y) const {
@@ -46,7 +80,10 @@ QPointF Lienzo::APixel(double x, double y) const {
 double Lienzo::PixelesPorUnidad() const { return std::fabs(sx_); }
 
 void Lienzo::Cls() {
-    imagen_.fill(fondo_);
+    if (vectorial_)
+        pintor_->fillRect(QRectF(0, 0, ancho_px_, alto_px_), Tono(fondo_));
+    else
+        imagen_.fill(fondo_);
     actualX_ = actualY_ = 0;
 }
 
@@ -56,7 +93,7 @@ void Lienzo::FijaFondo(const QColor& c) {
 }
 
 QPen Lienzo::Pluma() const {
-    QPen p(tinta_);
+    QPen p(Tono(tinta_));
     p.setWidthF(anchoTrazo_);
     p.setCapStyle(Qt::RoundCap);
     if (estilo_ == 2) p.setStyle(Qt::DotLine);
@@ -70,7 +107,9 @@ const QPixmap& Lienzo::SpritePunto(int ancho, QRgb color) {
     if (it != sprites_.end()) return it->second;
     // A dot pre-rendered once: drawing thousands of stars is then a blit each.
     int lado = ancho + 2;
-    QPixmap p(lado, lado);
+    const qreal proporcion = imagen_.devicePixelRatio();
+    QPixmap p(static_cast<int>(std::ceil(lado * proporcion)), static_cast<int>(std::ceil(lado * proporcion)));
+    p.setDevicePixelRatio(proporcion);
     p.fill(Qt::transparent);
     QPainter q(&p);
     q.setRenderHint(QPainter::Antialiasing, ancho > 1);
@@ -88,6 +127,14 @@ void Lienzo::Punto(double x, double y) {
     actualY_ = y;
     if (estilo_ == 5) return;
     QPointF c = APixel(x, y);
+    if (vectorial_) {  // a disc of its own on a vector device
+        pintor_->setPen(Qt::NoPen);
+        pintor_->setBrush(Tono(tinta_));
+        const double r = anchoTrazo_ <= 1 ? 0.5 : anchoTrazo_ / 2.0;
+        pintor_->drawEllipse(c, r, r);
+        pintor_->setBrush(Qt::NoBrush);
+        return;
+    }
     const QPixmap& s = SpritePunto(anchoTrazo_, tinta_.rgb());
     double medio = anchoTrazo_ / 2.0 + 1;
     pintor_->drawPixmap(QPointF(std::floor(c.x() - medio + 0.5), std::floor(c.y() - medio + 0.5)), s);
@@ -108,7 +155,7 @@ void Lienzo::Caja(double x1, double y1, double x2, double y2, bool relleno) {
     actualY_ = y2;
     if (estilo_ == 5) return;
     pintor_->setPen(Pluma());
-    pintor_->setBrush(relleno ? QBrush(tinta_) : Qt::NoBrush);
+    pintor_->setBrush(relleno ? QBrush(Tono(tinta_)) : Qt::NoBrush);
     pintor_->drawRect(QRectF(APixel(x1, y1), APixel(x2, y2)).normalized());
     pintor_->setBrush(Qt::NoBrush);
 }
@@ -123,7 +170,7 @@ void Lienzo::Circulo(double x, double y, double r, double aspecto, double inicio
     double ry = rx * aspecto;
     QRectF caja(c.x() - rx, c.y() - ry, 2 * rx, 2 * ry);
     pintor_->setPen(Pluma());
-    pintor_->setBrush(relleno ? QBrush(*relleno) : Qt::NoBrush);
+    pintor_->setBrush(relleno ? QBrush(Tono(*relleno)) : Qt::NoBrush);
     if (!arco) {
         pintor_->drawEllipse(caja);
     } else {
@@ -154,7 +201,7 @@ void Lienzo::Fase(double x, double y, double r, double iluminada, double haciaSo
     // The lit limb faces the Sun; screen y grows downward.
     pintor_->rotate(-haciaSol * 180 / M_PI);
     pintor_->setPen(Qt::NoPen);
-    pintor_->setBrush(sombra);
+    pintor_->setBrush(Tono(sombra));
     pintor_->drawEllipse(QPointF(0, 0), rp, rp);
     // Lit region: the half disc toward the Sun plus or minus a half ellipse
     // whose semi-axis is |1 - 2 f| of the radius (the terminator).
@@ -169,7 +216,7 @@ void Lienzo::Fase(double x, double y, double r, double iluminada, double haciaSo
     else
         limbo.arcTo(terminador, 270, -180);  // gibbous: bulge away from the Sun
     limbo.closeSubpath();
-    pintor_->setBrush(luz);
+    pintor_->setBrush(Tono(luz));
     pintor_->drawPath(limbo);
     pintor_->restore();
 }
@@ -197,7 +244,7 @@ void Lienzo::Escribe(std::string_view cp1252) {
         t.prepare(QTransform(), fuente_);
         it = textos_.emplace(std::move(clave), std::move(t)).first;
     }
-    pintor_->setPen(tinta_);
+    pintor_->setPen(Tono(tinta_));
     pintor_->drawStaticText(QPointF(p.x(), p.y()), it->second);
 }
 

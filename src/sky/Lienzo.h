@@ -1,6 +1,8 @@
 // The drawing surface of the sky picture: the verbs the plotters use, in a
 // user scale (ScaleLeft, ScaleTop, ScaleWidth, ScaleHeight, negative
-// values mirroring an axis), over QPainter on an off-screen image.
+// values mirroring an axis), over QPainter on an off-screen image, or
+// straight on another device (a PDF, a printer, an SVG file) so that lines,
+// discs and text stay vectors there.
 #pragma once
 #include <QColor>
 #include <QFont>
@@ -18,15 +20,26 @@ namespace vedrano {
 // A colour written as the classic &HBBGGRR number.
 QColor ColorVB(unsigned long bgr);
 
+// Lightness turned over with hue and saturation kept: black sky to white,
+// white stars to black, coloured lines stay their colour (printing to save ink).
+QColor ColorParaTinta(const QColor& c);
+
 class Lienzo {
 public:
-    Lienzo(int ancho, int alto);
+    // An image of ancho x alto logical pixels, `proporcion` device pixels
+    // each (the screen's device pixel ratio), so it stays sharp on hi-DPI.
+    Lienzo(int ancho, int alto, double proporcion = 1.0);
+    // Paints through `pintor`, whose transformation maps ancho x alto
+    // logical pixels onto the place meant for the sky; nothing is rasterised.
+    // `paraTinta` draws every colour with ColorParaTinta.
+    Lienzo(QPainter& pintor, int ancho, int alto, bool paraTinta);
 
-    int Ancho() const { return imagen_.width(); }
-    int Alto() const { return imagen_.height(); }
+    int Ancho() const { return ancho_px_; }
+    int Alto() const { return alto_px_; }
+    // The picture (none when painting on another device).
     const QImage& Imagen() const { return imagen_; }
     // Resizes the surface; the picture is cleared.
-    void Redimensiona(int ancho, int alto);
+    void Redimensiona(int ancho, int alto, double proporcion = 1.0);
 
     // User scale: the picture spans from (izquierda, superior) over ancho x alto units.
     void Escala(float izquierda, float superior, float ancho, float alto);
@@ -71,10 +84,15 @@ public:
 
 private:
     QPen Pluma() const;
+    QColor Tono(const QColor& c) const { return paraTinta_ ? ColorParaTinta(c) : c; }
+    void PreparaPintor();
     const QPixmap& SpritePunto(int ancho, QRgb color);
 
     QImage imagen_;
-    std::unique_ptr<QPainter> pintor_;
+    std::unique_ptr<QPainter> propio_;
+    QPainter* pintor_ = nullptr;  // propio_, or the device's painter
+    bool vectorial_ = false, paraTinta_ = false;
+    int ancho_px_ = 0, alto_px_ = 0;
     float izquierda_ = 0, superior_ = 0, ancho_ = 1, alto_ = 1;
     double sx_ = 1, sy_ = 1;
     QColor fondo_ = Qt::black, tinta_ = Qt::white;

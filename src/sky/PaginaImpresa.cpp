@@ -18,7 +18,7 @@ namespace vedrano {
 namespace {
 
 constexpr double MARGEN_MM = 12.0;
-constexpr double PUNTOS_POR_MM = 6.0;  // the picture's resolution, about 150 per inch
+constexpr double PUNTOS_POR_MM = 6.0;  // the sky's logical pixels per millimetre, as on a screen
 constexpr double ALTO_TITULO_MM = 22.0;
 
 QString Utf8(const std::string& cp1252) { return QString::fromStdString(DesdeA1252(cp1252)).trimmed(); }
@@ -29,11 +29,7 @@ QImage ImagenParaTinta(const QImage& cielo) {
     QImage r = cielo.convertToFormat(QImage::Format_RGB32);
     for (int y = 0; y < r.height(); ++y) {
         auto* fila = reinterpret_cast<QRgb*>(r.scanLine(y));
-        for (int x = 0; x < r.width(); ++x) {
-            QColor c = QColor::fromRgb(fila[x]).toHsl();
-            c.setHsl(c.hslHue(), c.hslSaturation(), 255 - c.lightness());
-            fila[x] = c.rgb();
-        }
+        for (int x = 0; x < r.width(); ++x) fila[x] = ColorParaTinta(QColor::fromRgb(fila[x])).rgb();
     }
     return r;
 }
@@ -71,11 +67,8 @@ bool ImprimePagina(QPagedPaintDevice& dispositivo, const Estado& estado, const C
     const double cabe = std::min({1.0, util.width() / anchoMm, (util.height() - ALTO_TITULO_MM) / altoMm});
     const double wMm = anchoMm * cabe, hMm = altoMm * cabe;
 
-    Lienzo lienzo(std::max(16, static_cast<int>(std::lround(wMm * PUNTOS_POR_MM))),
-                  std::max(16, static_cast<int>(std::lround(hMm * PUNTOS_POR_MM))));
-    ActualizaCielo(e, c, lienzo);
-    const QImage imagen = e.ImagenEnPantalla ? lienzo.Imagen() : ImagenParaTinta(lienzo.Imagen());
-    const QStringList titulo = LineasTitulo(e);
+    const int anchoPx = std::max(16, static_cast<int>(std::lround(wMm * PUNTOS_POR_MM)));
+    const int altoPx = std::max(16, static_cast<int>(std::lround(hMm * PUNTOS_POR_MM)));
 
     QPainter p;
     if (!p.begin(&dispositivo)) return false;
@@ -89,6 +82,20 @@ bool ImprimePagina(QPagedPaintDevice& dispositivo, const Estado& estado, const C
     normal.setPointSizeF(9);
     normal.setBold(false);
 
+    // The sky first, straight on the device: lines, discs and labels stay
+    // vectors on paper and in the PDF, sharp at any resolution.
+    const QRectF marco((util.width() - wMm) / 2.0 * kx, ALTO_TITULO_MM * ky, wMm * kx, hMm * ky);
+    p.save();
+    p.translate(marco.topLeft());
+    p.scale(marco.width() / anchoPx, marco.height() / altoPx);
+    p.setClipRect(QRectF(0, 0, anchoPx, altoPx));
+    {
+        Lienzo lienzo(p, anchoPx, altoPx, !e.ImagenEnPantalla);
+        ActualizaCielo(e, c, lienzo);
+    }
+    p.restore();
+    const QStringList titulo = LineasTitulo(e);
+
     p.setPen(Qt::black);
     p.setFont(grande);
     double y = 5.0;
@@ -97,8 +104,6 @@ bool ImprimePagina(QPagedPaintDevice& dispositivo, const Estado& estado, const C
     p.setFont(normal);
     for (int i = 1; i < titulo.size(); ++i, y += 4.8) p.drawText(QPointF(0, y * ky), titulo[i]);
 
-    const QRectF marco((util.width() - wMm) / 2.0 * kx, ALTO_TITULO_MM * ky, wMm * kx, hMm * ky);
-    p.drawImage(marco, imagen);
     p.setPen(QPen(Qt::black, 0.3 * kx));
     p.setBrush(Qt::NoBrush);
     p.drawRect(marco);

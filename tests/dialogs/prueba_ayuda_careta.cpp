@@ -23,7 +23,8 @@ QString Recurso(const QString& url) { return QString(url).replace(QStringLiteral
 TEST(Ayuda, CadaTemaYCadaEnlaceLlevanAUnaPagina) {
     pruebas::AseguraAplicacion();
     const int temas[] = {tema::INDICE, tema::GENERAL, tema::CIELO, tema::CARGAGUAR, tema::PERSONAL, tema::LOCALI,
-                         tema::HORA, tema::OBJETOS, tema::BUSCAR, tema::IMPRESOR, tema::ANIMAR};
+                         tema::HORA, tema::OBJETOS, tema::BUSCAR, tema::IMPRESOR, tema::ANIMAR,
+                         tema::TECLADO, tema::ORDENES, tema::ARCHIVOS};
     QStringList vistas;
     for (int t : temas) {
         const QString pagina = PaginaAyuda(t);
@@ -44,26 +45,39 @@ TEST(Ayuda, CadaTemaYCadaEnlaceLlevanAUnaPagina) {
     EXPECT_EQ(PaginaAyuda(4711), PaginaAyuda(tema::INDICE));
 }
 
-TEST(Ayuda, VentanaAbreElTemaYSeCierra) {
+// The help stays open beside the sky without blocking it; one window
+// serves every topic; while a form is open it belongs to the form (the
+// only window the user can reach then) and comes back when the form closes.
+TEST(Ayuda, VentanaNoModalUnaParaTodosLosTemas) {
     pruebas::AseguraAplicacion();
     pruebas::Falsos f;
     Estado e;
     e.Velocidad = 100;
-    QString titulo;
-    auto* t = new QTimer;
-    t->setInterval(5);
-    QObject::connect(t, &QTimer::timeout, [t, &titulo] {
-        if (auto* v = qobject_cast<VentanaAyuda*>(QApplication::activeModalWidget())) {
-            t->stop();
-            t->deleteLater();
-            titulo = v->visor()->documentTitle();
-            auto* salir = v->findChild<controles::BotonDialogo*>();
-            pruebas::Clic(salir, QPoint(16, 16));
-        }
-    });
-    t->start();
-    MuestraAyuda(e, nullptr, tema::GENERAL);
-    EXPECT_EQ(titulo, QString::fromUtf8("Descripción general de VEDRANO"));
+    QWidget cielo;
+    cielo.resize(800, 600);
+    cielo.show();
+    VentanaAyuda* v = MuestraAyuda(e, &cielo, tema::GENERAL);
+    ASSERT_NE(v, nullptr);
+    EXPECT_TRUE(v->isVisible());
+    EXPECT_FALSE(v->isModal());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(v->visor()->documentTitle(), QString::fromUtf8("Descripción general de VEDRANO"));
+    EXPECT_EQ(MuestraAyuda(e, &cielo, tema::TECLADO), v);
+    EXPECT_EQ(v->visor()->documentTitle(), QStringLiteral("Teclado"));
+
+    QDialog forma(&cielo);
+    forma.setModal(true);
+    forma.show();
+    ASSERT_EQ(QApplication::activeModalWidget(), &forma);
+    EXPECT_EQ(MuestraAyuda(e, &cielo, tema::BUSCAR), v);
+    EXPECT_EQ(v->parentWidget(), &forma);
+    forma.accept();
+    EXPECT_EQ(v->parentWidget(), &cielo);
+    EXPECT_TRUE(v->isVisible());
+
+    pruebas::Clic(v->findChild<controles::BotonDialogo*>(), QPoint(16, 16));
+    EXPECT_FALSE(v->isVisible());
+    delete v;
 }
 
 TEST(Careta, SeCierraTrasSuTiempoMinimoCuandoLaVentanaPrincipalEstaLista) {

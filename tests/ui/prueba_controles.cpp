@@ -82,7 +82,7 @@ TEST_F(Controles, SpinAvanzaHastaElLimiteConSonidoYPausas) {
     PulsaSpin(s, true);  // held: only the limit ends it
     EXPECT_EQ(pasos, (std::vector<float>{14.5f, 15.0f}));
     EXPECT_EQ(guardado, 15.0f);
-    EXPECT_EQ(s.campo()->text(), QStringLiteral("15.0"));
+    EXPECT_EQ(s.campo()->text(), QStringLiteral("15,0"));
     EXPECT_EQ(f.sonidos.oidos, (std::vector<int>{4, 4}));
     EXPECT_EQ(f.reloj.ahora - antes, 2u * 2u * 41u);  // two pauses of 40 ms a step
 

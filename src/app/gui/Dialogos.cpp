@@ -8,6 +8,7 @@
 #include "dialogs/Hora.h"
 #include "dialogs/Impresor.h"
 #include "dialogs/Locali.h"
+#include "dialogs/Mensajes.h"
 #include "dialogs/Objetos.h"
 #include "dialogs/Personal.h"
 
@@ -24,7 +25,21 @@ DialogosCielo Dialogos(Estado& e) {
     d.Impresor = AbreImpresor;
     d.Animar = AbreAnimar;
     d.Ayuda = [&e](QWidget* padre, int tema) { MuestraAyuda(e, padre, tema); };
+    d.TemaDe = TemaDeForma;
     return d;
+}
+
+int TemaDeForma(QWidget* forma) {
+    if (qobject_cast<CargaGuar*>(forma)) return tema::CARGAGUAR;
+    if (qobject_cast<Personal*>(forma)) return tema::PERSONAL;
+    if (qobject_cast<Locali*>(forma)) return tema::LOCALI;
+    if (qobject_cast<Hora*>(forma)) return tema::HORA;
+    if (qobject_cast<Objetos*>(forma)) return tema::OBJETOS;
+    if (qobject_cast<Buscar*>(forma)) return tema::BUSCAR;
+    if (qobject_cast<Impresor*>(forma)) return tema::IMPRESOR;
+    if (qobject_cast<Animar*>(forma)) return tema::ANIMAR;
+    if (auto* m = qobject_cast<Mensajes*>(forma)) return m->tema();
+    return 0;
 }
 
 QPointer<QWidget> MuestraCareta(const Estado& e) { return AbreCareta(e); }

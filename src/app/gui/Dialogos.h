@@ -8,6 +8,9 @@ namespace vedrano {
 
 DialogosCielo Dialogos(Estado& e);
 
+// The help topic of one of the program's forms; 0 for any other window.
+int TemaDeForma(QWidget* forma);
+
 // The cover shown while the program starts; it closes by itself once the
 // main window is active.
 QPointer<QWidget> MuestraCareta(const Estado& e);

@@ -15,6 +15,7 @@
 #include "dialogs/Mensajes.h"
 #include "dialogs/MensajesVentana.h"
 #include "platform/CarpetaPrograma.h"
+#include "platform/qt/Idioma.h"
 #include "platform/qt/PantallaQt.h"
 #include "ui/cielo/Cielo.h"
 #include "app/gui/Dialogos.h"
@@ -29,6 +30,7 @@ int main(int argc, char** argv) {
     QIcon icono;
     for (int lado : {16, 24, 32, 48, 64, 128, 256}) icono.addFile(QStringLiteral(":/icono/%1x%1.png").arg(lado));
     QApplication::setWindowIcon(icono);
+    plataforma::PonEspanol();  // without Qt's translations, its own dialogs stay in English
     AnalisisCli orden = AnalizaArgumentosVentana(QApplication::arguments());
     if (orden.terminar) {
         std::cout << orden.salida << std::flush;

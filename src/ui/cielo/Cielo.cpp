@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QScrollArea>
+#include <QShortcut>
 
 #include "app/Texto1252.h"
 #include "astro/TextosAngulo.h"
@@ -13,6 +15,7 @@
 #include "ui/cielo/Paneles.h"
 #include "ui/cielo/PanelLeyenda.h"
 #include "ui/cielo/VistaCielo.h"
+#include "ui/controles/BotonDialogo.h"
 #include "ui/controles/ControlDibujado.h"
 #include "ui/controles/Estilo.h"
 #include "ui/controles/Pulsador.h"
@@ -39,6 +42,13 @@ constexpr DatosBoton BOTONES[10] = {{0, 0, ""},
                                      {78, 242, " Salir de la aplicación "}};
 
 const char* const ROTULOS_SUBBAJ[6] = {"", "Dirección", "Elevación", "Zoom", "Tiempo", "Animación"};
+// The keys of each arrow pair, told in its tooltip.
+const char* const TECLAS_SUBBAJ[6] = {"",
+                                      " Dirección: flechas izquierda y derecha del teclado ",
+                                      " Elevación: flechas arriba y abajo del teclado ",
+                                      " Zoom: teclas + y - ",
+                                      " Tiempo: un paso atrás con Re Pág, adelante con Av Pág ",
+                                      " Animación: la barra espaciadora la pone en marcha o la para "};
 
 QString Q(const std::string& cp1252) { return QString::fromUtf8(DesdeA1252(cp1252)); }
 
@@ -60,6 +70,8 @@ Cielo::Cielo(Estado& e, const Catalogos& c, DialogosCielo dialogos)
     contexto_.ArrancaTiempoReal = [this] { ArrancaTiempoReal(); };
     contexto_.ParaTiempoReal = [this] { ParaTiempoReal(); };
     Construye();
+    Atajos();
+    qApp->installEventFilter(this);
     reloj_.setInterval(1000);
     connect(&reloj_, &QTimer::timeout, this, &Cielo::TicTiempoReal);
     // The smallest window that cuts nothing, unless the screen is smaller
@@ -76,19 +88,21 @@ Cielo::~Cielo() { e_.Sujecion = e_.Enganche = false; }
 
 void Cielo::Construye() {
     vista_ = new VistaCielo(e_, c_, mensajes_, this);
+    vista_->setFocusPolicy(Qt::StrongFocus);
+    vista_->setAccessibleName(QStringLiteral("Cielo"));
     connect(vista_, &VistaCielo::Dibujado, this, &Cielo::RefrescaCampos);
     connect(vista_, &VistaCielo::VistaCentrada, this, [this] {
         RefrescaCampos();
         pulsador45_->show();
     });
 
-    // The button panel keeps its own warm colours.
     // The left column scrolls on a screen too short for it.
     columna_ = new QScrollArea(this);
     columna_->setFrameShape(QFrame::NoFrame);
     columna_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* contenido = new QWidget;
     columna_->setWidget(contenido);
+    // The button panel keeps its own warm colours.
     panelBotones_ = new Panel(contenido, QColor(200, 82, 52), QColor(238, 136, 102), QColor(119, 26, 18));
     panelBotones_->setFixedSize(141, 300);
     for (int k = 1; k <= 9; ++k) {
@@ -109,6 +123,8 @@ void Cielo::Construye() {
         connect(s, &controles::SubBaj::soltado, this, [this] {
             if (!e_.Enganche) e_.Sujecion = false;
         });
+        connect(s, &controles::SubBaj::tecla, this, [this, i](int signo) { PasoTecla(i, signo); });
+        s->setToolTip(QString::fromUtf8(TECLAS_SUBBAJ[i]));
         subbaj_[static_cast<std::size_t>(i)] = s;
     }
     pulsador44_ = new controles::Pulsador(e_, 44, panelControl_);
@@ -120,32 +136,38 @@ void Cielo::Construye() {
     pulsador45_->hide();
 
     tiempoReal_ = new CampoInfo(contenido);
+    tiempoReal_->setAccessibleName(QStringLiteral("Tiempo real"));
     tiempoReal_->FijaTexto(QString::fromUtf8("Animación tiempo real"));
     connect(tiempoReal_, &CampoInfo::pulsado, this, [this] { PulsadorAccionado(44); });
 
     panelLocalizacion_ = new Panel(this);
-    auto campo = [this](QWidget* padre, int abre) {
+    auto campo = [this](QWidget* padre, int abre, const char* nombre) {
         auto* f = new CampoInfo(padre);
+        f->setAccessibleName(QString::fromUtf8(nombre));
         connect(f, &CampoInfo::pulsado, this, [this, abre] { BotonSoltado(abre); });
         return f;
     };
-    loca_ = campo(panelLocalizacion_, 3);
-    longi_ = campo(panelLocalizacion_, 3);
-    lati_ = campo(panelLocalizacion_, 3);
-    direc_ = campo(panelLocalizacion_, 3);
-    eleva_ = campo(panelLocalizacion_, 3);
-    zoom_ = campo(panelLocalizacion_, 3);
-    fecUni_ = campo(panelLocalizacion_, 4);
-    horUni_ = campo(panelLocalizacion_, 4);
-    fecLoc_ = campo(panelLocalizacion_, 4);
-    horLoc_ = campo(panelLocalizacion_, 4);
-    fecJul_ = campo(panelLocalizacion_, 4);
+    loca_ = campo(panelLocalizacion_, 3, "Localidad");
+    longi_ = campo(panelLocalizacion_, 3, "Longitud");
+    lati_ = campo(panelLocalizacion_, 3, "Latitud");
+    direc_ = campo(panelLocalizacion_, 3, "Dirección");
+    eleva_ = campo(panelLocalizacion_, 3, "Elevación");
+    zoom_ = campo(panelLocalizacion_, 3, "Zoom");
+    fecUni_ = campo(panelLocalizacion_, 4, "Fecha universal");
+    horUni_ = campo(panelLocalizacion_, 4, "Hora universal");
+    fecLoc_ = campo(panelLocalizacion_, 4, "Fecha local");
+    horLoc_ = campo(panelLocalizacion_, 4, "Hora local");
+    fecJul_ = campo(panelLocalizacion_, 4, "Día juliano");
 
     panelCursor_ = new Panel(this);
     aRecta_ = new CampoInfo(panelCursor_);
     dec_ = new CampoInfo(panelCursor_);
     altitud_ = new CampoInfo(panelCursor_);
     azimut_ = new CampoInfo(panelCursor_);
+    aRecta_->setAccessibleName(QStringLiteral("Ascensión recta del cursor"));
+    dec_->setAccessibleName(QStringLiteral("Declinación del cursor"));
+    altitud_->setAccessibleName(QStringLiteral("Altitud del cursor"));
+    azimut_->setAccessibleName(QStringLiteral("Azimut del cursor"));
     connect(vista_, &VistaCielo::CursorMovido, this, [this](const TextosCursor& t) {
         aRecta_->FijaTexto(Q(" " + t.AR));
         dec_->FijaTexto(Q(" " + t.DEC));
@@ -190,6 +212,12 @@ void Cielo::RefrescaCampos() {
         lugar = c_.TablaCiudades[static_cast<std::size_t>(e_.IndiceLugar)].Nombre.texto();
     loca_->FijaTexto(Q(" " + lugar));
     pulsador45_->setVisible(e_.Centrado);
+    // What each arrow pair steps, for the screen reader.
+    subbaj_[1]->setValor(direc_->Texto().trimmed());
+    subbaj_[2]->setValor(eleva_->Texto().trimmed());
+    subbaj_[3]->setValor(zoom_->Texto().trimmed());
+    subbaj_[4]->setValor(fecLoc_->Texto().trimmed() + " " + horLoc_->Texto().trimmed());
+    subbaj_[5]->setValor(e_.Enganche ? QStringLiteral("en marcha") : QStringLiteral("parada"));
 }
 
 void Cielo::Abre(const std::function<void(ContextoDialogo&)>& abre, bool cargaConfiguraciones) {
@@ -257,11 +285,71 @@ void Cielo::PulsadorAccionado(int k) {
 }
 
 void Cielo::keyPressEvent(QKeyEvent* ev) {
-    if (ev->key() == Qt::Key_Q || ev->key() == Qt::Key_Escape) {
-        showMinimized();
-        return;
+    // Keys that no control used: the arrow pairs' steps. "q", "Q" and Esc
+    // minimise, as before.
+    switch (ev->key()) {
+        case Qt::Key_Q:
+        case Qt::Key_Escape: showMinimized(); return;
+        case Qt::Key_Left: PasoTecla(1, -1); return;
+        case Qt::Key_Right: PasoTecla(1, 1); return;
+        case Qt::Key_Down: PasoTecla(2, -1); return;
+        case Qt::Key_Up: PasoTecla(2, 1); return;
+        case Qt::Key_Minus: PasoTecla(3, -1); return;
+        case Qt::Key_Plus:
+        case Qt::Key_Equal: PasoTecla(3, 1); return;
+        case Qt::Key_PageUp: PasoTecla(4, -1); return;
+        case Qt::Key_PageDown: PasoTecla(4, 1); return;
+        case Qt::Key_Space:
+            if (!ev->isAutoRepeat()) PasoTecla(5, e_.PasoDias < 0 ? -1 : 1);
+            return;
+        default: QWidget::keyPressEvent(ev);
     }
-    QWidget::keyPressEvent(ev);
+}
+
+void Cielo::Atajos() {
+    struct Atajo {
+        QKeySequence teclas;
+        std::function<void()> accion;
+    };
+    const Atajo atajos[] = {
+        {QKeySequence(Qt::CTRL | Qt::Key_F), [this] { BotonSoltado(6); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_O), [this] { BotonSoltado(1); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_S), [this] { BotonSoltado(1); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_P), [this] { BotonSoltado(7); }},
+        {QKeySequence(Qt::Key_F11), [this] { isFullScreen() ? showNormal() : showFullScreen(); }},
+    };
+    for (const Atajo& a : atajos) {
+        auto* s = new QShortcut(a.teclas, this);
+        connect(s, &QShortcut::activated, this, a.accion);
+    }
+}
+
+void Cielo::AyudaContexto() {
+    QWidget* forma = QApplication::activeModalWidget();
+    if (!forma) forma = QApplication::activeWindow();
+    int t = dialogos_.TemaDe && forma ? dialogos_.TemaDe(forma) : 0;
+    contexto_.Ayuda(t != 0 ? t : 1030);
+}
+
+bool Cielo::eventFilter(QObject* objeto, QEvent* ev) {
+    if (ev->type() != QEvent::KeyPress || !objeto->isWidgetType()) return QWidget::eventFilter(objeto, ev);
+    auto* k = static_cast<QKeyEvent*>(ev);
+    if (k->key() == Qt::Key_F1 && k->modifiers() == Qt::NoModifier) {
+        // F1 from any window: the help of the form in front.
+        AyudaContexto();
+        return true;
+    }
+    if (k->key() == Qt::Key_Escape && k->modifiers() == Qt::NoModifier) {
+        // Esc in a form leaves it as its exit button does (sound and all).
+        QWidget* forma = static_cast<QWidget*>(objeto)->window();
+        if (forma != this && qobject_cast<QDialog*>(forma))
+            for (auto* b : forma->findChildren<controles::BotonDialogo*>())
+                if (b->tipo() == controles::BotonDialogo::Tipo::Salir && b->isVisible() && b->window() == forma) {
+                    b->acciona();
+                    return true;
+                }
+    }
+    return QWidget::eventFilter(objeto, ev);
 }
 
 void Cielo::closeEvent(QCloseEvent* ev) {

@@ -32,6 +32,7 @@ class Pulsador;
 struct DialogosCielo {
     std::function<void(ContextoDialogo&)> CargaGuar, Personal, Locali, Hora, Objetos, Buscar, Impresor, Animar;
     std::function<void(QWidget*, int)> Ayuda;  // the help window at a topic
+    std::function<int(QWidget*)> TemaDe;       // the help topic of a form (0: the main window's)
 };
 
 class Cielo : public QWidget {
@@ -52,6 +53,10 @@ public:
 
     // The hold-to-repeat loop of arrow pair `i` (1..5) pressed at x.
     void SubBajHaPulsado(int i, int x);
+    // One step of arrow pair `i` from the keyboard (-1 the left arrow).
+    void PasoTecla(int i, int signo);
+    // F1: the help of the form that holds the focus.
+    void AyudaContexto();
     // The dialog button `k` released (1..9).
     void BotonSoltado(int k);
     // Push buttons 44 (animation dialog) and 45 (restore the work file).
@@ -72,6 +77,7 @@ protected:
     void resizeEvent(QResizeEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
     void closeEvent(QCloseEvent*) override;
+    bool eventFilter(QObject* objeto, QEvent* ev) override;
 
 private:
     void Construye();
@@ -80,6 +86,9 @@ private:
     void SubBajMovido(int i, bool enBanda);
     void SubBajPresionado(int i, int x);
     void PasoVista(int i, int signo);
+    bool RechazaTiempoReal(int i);
+    void RecalculaCuerpos();
+    void Atajos();
 
     Estado& e_;
     const Catalogos& c_;

@@ -32,14 +32,35 @@ void Cielo::SubBajMovido(int i, bool enBanda) {
 void Cielo::SubBajPresionado(int i, int x) {
     // Only a press inside the arrows' band counts.
     if (e_.CursorActual != 21) return;
-    if ((i == 4 || i == 5) && e_.TiempoReal) {
-        mensajes_.Mensaje(A1252("En este momento,  la imagen  en  pantalla se esta animando en tiempo real,  por tanto,  "
-                                "no  puede utilizar  los  botones  de Fecha y Hora o los de Animación del Panel de "
-                                "Control."),
-                          "Animando en Tiempo Real", 1, 2);
+    if (RechazaTiempoReal(i)) return;
+    SubBajHaPulsado(i, x);
+}
+
+bool Cielo::RechazaTiempoReal(int i) {
+    if ((i != 4 && i != 5) || !e_.TiempoReal) return false;
+    mensajes_.Mensaje(A1252("En este momento,  la imagen  en  pantalla se esta animando en tiempo real,  por tanto,  "
+                            "no  puede utilizar  los  botones  de Fecha y Hora o los de Animación del Panel de "
+                            "Control."),
+                      "Animando en Tiempo Real", 1, 2);
+    return true;
+}
+
+void Cielo::PasoTecla(int i, int signo) {
+    // A key is a short press: one step of the pair, lit and heard as a
+    // step of the repeat, then the sky redrawn as after a release.
+    if (RechazaTiempoReal(i)) return;
+    if (i == 5) {
+        SubBajHaPulsado(5, signo < 0 ? 12 : 35);
         return;
     }
-    SubBajHaPulsado(i, x);
+    if (i == 4 && ((signo < 0 && e_.PasoDias > 0) || (signo > 0 && e_.PasoDias < 0))) e_.PasoDias = -e_.PasoDias;
+    controles::SubBaj* s = subbaj_[static_cast<std::size_t>(i)];
+    s->dibuja(signo < 0 ? 1 : 0);
+    controles::Suena(e_, 1, 4);
+    PasoVista(i, signo);
+    s->dibuja(-1);
+    if (i == 3) RecalculaCuerpos();
+    if (i == 3 || i == 4) vista_->ActualizaCielo();
 }
 
 void Cielo::PasoVista(int i, int signo) {
@@ -103,13 +124,15 @@ void Cielo::SubBajHaPulsado(int i, int x) {
         controles::Espera(e_, 40);
         controles::AtiendeEventos();
     }
-    if (i == 3) {
-        for (int16_t k = 1; k <= 9; ++k)
-            if (k != 3) HallaPlaneta(e_, c_.TablaPlanetas, k);
-        HallaSolAparente(e_);
-        HallaLuna(e_);
-    }
+    if (i == 3) RecalculaCuerpos();
     vista_->ActualizaCielo();
+}
+
+void Cielo::RecalculaCuerpos() {
+    for (int16_t k = 1; k <= 9; ++k)
+        if (k != 3) HallaPlaneta(e_, c_.TablaPlanetas, k);
+    HallaSolAparente(e_);
+    HallaLuna(e_);
 }
 
 void Cielo::TicTiempoReal() {

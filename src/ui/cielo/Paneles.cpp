@@ -21,12 +21,15 @@ void Panel::paintEvent(QPaintEvent*) {
 CampoInfo::CampoInfo(QWidget* padre) : QWidget(padre) {
     setFont(controles::FuenteControles());
     setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::TabFocus);
+    controles::InstalaAccesibilidad();
 }
 
 void CampoInfo::FijaTexto(const QString& t) {
     if (t == texto_) return;
     texto_ = t;
     update();
+    controles::AvisaValor(this);
 }
 
 void CampoInfo::paintEvent(QPaintEvent*) {
@@ -41,19 +44,39 @@ void CampoInfo::paintEvent(QPaintEvent*) {
     p.drawLine(w, 0, w, h);
     p.setPen(Qt::black);
     p.drawText(rect().adjusted(3, 0, -2, 0), Qt::AlignVCenter | Qt::AlignLeft, texto_);
+    if (hasFocus()) controles::PintaFoco(p, rect());
 }
 
 void CampoInfo::mouseReleaseEvent(QMouseEvent*) { emit pulsado(); }
+
+void CampoInfo::keyPressEvent(QKeyEvent* ev) {
+    if (controles::EsTeclaPulsar(ev->key()) && !ev->isAutoRepeat()) return emit pulsado();
+    QWidget::keyPressEvent(ev);
+}
 
 BotonPanel::BotonPanel(Estado& e, int indice, const QString& ayuda, QWidget* padre)
     : QWidget(padre), e_(e), indice_(indice), suelto_(IconoBoton(indice, false)), hundido_(IconoBoton(indice, true)) {
     setFixedSize(48, 48);
     setToolTip(ayuda);
+    setFocusPolicy(Qt::TabFocus);
+    controles::InstalaAccesibilidad();
 }
 
 void BotonPanel::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.drawPixmap(0, 0, pulsado_ ? hundido_ : suelto_);
+    if (hasFocus()) controles::PintaFoco(p, rect().adjusted(2, 2, -2, -2));
+}
+
+void BotonPanel::keyPressEvent(QKeyEvent* ev) {
+    if (!controles::EsTeclaPulsar(ev->key()) || ev->isAutoRepeat()) return QWidget::keyPressEvent(ev);
+    // Shown pressed for a moment, as under the mouse.
+    pulsado_ = true;
+    repaint();
+    controles::Espera(e_, 80);
+    pulsado_ = false;
+    repaint();
+    emit soltado(indice_);
 }
 
 void BotonPanel::mousePressEvent(QMouseEvent* ev) {

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include "app/Estado.h"
+#include "ui/controles/Accesible.h"
 
 namespace vedrano {
 
@@ -25,13 +26,17 @@ private:
     QColor fondo_, claro_, oscuro_;
 };
 
-// A sunken one-line field; a click reports itself.
-class CampoInfo : public QWidget {
+// A sunken one-line field; a click, or Return or Space with the focus on
+// it, reports itself. Its accessible name says which field it is.
+class CampoInfo : public QWidget, public controles::Accesible {
     Q_OBJECT
 public:
     explicit CampoInfo(QWidget* padre);
     void FijaTexto(const QString& t);
     QString Texto() const { return texto_; }
+    QAccessible::Role rolAccesible() const override { return QAccessible::StaticText; }
+    QString nombreAccesible() const override { return accessibleName(); }
+    QString valorAccesible() const override { return texto_.trimmed(); }
 
 signals:
     void pulsado();
@@ -39,17 +44,23 @@ signals:
 protected:
     void paintEvent(QPaintEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    void focusInEvent(QFocusEvent*) override { update(); }
+    void focusOutEvent(QFocusEvent*) override { update(); }
 
 private:
     QString texto_;
 };
 
-// A 48 x 48 dialog button of the control panel; it reports the release.
-class BotonPanel : public QWidget {
+// A 48 x 48 dialog button of the control panel; it reports the release,
+// or Return or Space with the focus on it.
+class BotonPanel : public QWidget, public controles::Accesible {
     Q_OBJECT
 public:
     BotonPanel(Estado& e, int indice, const QString& ayuda, QWidget* padre);
     int indice() const { return indice_; }
+    QAccessible::Role rolAccesible() const override { return QAccessible::Button; }
+    QString nombreAccesible() const override { return toolTip().trimmed(); }
 
 signals:
     void soltado(int indice);
@@ -60,6 +71,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent*) override;
     void enterEvent(QEnterEvent*) override;
     void leaveEvent(QEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    void focusInEvent(QFocusEvent*) override { update(); }
+    void focusOutEvent(QFocusEvent*) override { update(); }
 
 private:
     Estado& e_;

@@ -70,7 +70,8 @@ void VistaCielo::paintEvent(QPaintEvent*) {
 
 void VistaCielo::resizeEvent(QResizeEvent*) {
     if (width() < 16 || height() < 16) return;
-    lienzo_.Redimensiona(width(), height());
+    // At the screen's device pixel ratio: sharp stars and labels on hi-DPI.
+    lienzo_.Redimensiona(width(), height(), devicePixelRatioF());
     DibujaCielo();
 }
 

@@ -36,4 +36,29 @@ void BotonDialogo::mouseReleaseEvent(QMouseEvent* ev) {
     emit pulsado();
 }
 
+void BotonDialogo::keyPressEvent(QKeyEvent* ev) {
+    if (!EsTeclaPulsar(ev->key()) || ev->isAutoRepeat()) return ControlDibujado::keyPressEvent(ev);
+    acciona();
+}
+
+void BotonDialogo::acciona() {
+    abajo_ = true;
+    repaint();
+    Espera(e_, 80);
+    abajo_ = false;
+    repaint();
+    if (tipo_ != Tipo::Ayuda) Suena(e_, 0, 9);
+    emit pulsado();
+}
+
+QString BotonDialogo::nombreAccesible() const {
+    const QString t = toolTip().trimmed();
+    if (!t.isEmpty()) return t;
+    switch (tipo_) {
+        case Tipo::Salir: return QStringLiteral("Salir");
+        case Tipo::Ayuda: return QStringLiteral("Ayuda");
+        default: return QStringLiteral("Aceptar");
+    }
+}
+
 }  // namespace vedrano::controles

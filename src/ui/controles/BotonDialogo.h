@@ -13,6 +13,9 @@ public:
     BotonDialogo(Estado& e, Tipo tipo, QWidget* padre = nullptr);
     Tipo tipo() const { return tipo_; }
     QSize sizeHint() const override { return {32, 32}; }
+    QString nombreAccesible() const override;
+    // The press from the keyboard: shown down a moment, then as a click.
+    void acciona();
 
 signals:
     void pulsado();
@@ -22,6 +25,7 @@ protected:
     void mousePressEvent(QMouseEvent* ev) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent* ev) override;
+    void keyPressEvent(QKeyEvent* ev) override;
 
 private:
     Tipo tipo_;

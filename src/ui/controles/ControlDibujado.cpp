@@ -30,12 +30,20 @@ ControlDibujado::ControlDibujado(Estado& e, int indice, QWidget* padre)
     setFont(FuenteControles());
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::TabFocus);
+    InstalaAccesibilidad();
 }
 
 void ControlDibujado::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.fillRect(rect(), GRIS_CLARO);
     pinta(p);
+    if (hasFocus()) PintaFoco(p, rect());
+}
+
+QString ControlDibujado::nombreAccesible() const {
+    const QString t = toolTip().trimmed();
+    return t.isEmpty() ? etiqueta() : t;
 }
 
 void ControlDibujado::leaveEvent(QEvent*) { cambiaCursor(0); }

@@ -1,12 +1,16 @@
 // The base of every custom-drawn control: it knows the application state
 // (for the flags, the sound option and the current cursor) and its index
 // in its control array, which keys the label and value tables. Each kind
-// paints itself completely from the control bitmap in `pinta`.
+// paints itself completely from the control bitmap in `pinta`. A control
+// takes the keyboard focus with Tab (a click leaves the focus where it
+// was), shows it with a dotted frame and answers the keys that stand for
+// its mouse gestures; keys it does not use go on to its form.
 #pragma once
 #include <QWidget>
 #include <cstdint>
 
 #include "app/Estado.h"
+#include "ui/controles/Accesible.h"
 
 class QPainter;
 
@@ -26,16 +30,20 @@ void Espera(const Estado& e, double milisegundos);
 // Lets the pending window events run, once per step of a repeat loop.
 void AtiendeEventos();
 
-class ControlDibujado : public QWidget {
+class ControlDibujado : public QWidget, public Accesible {
     Q_OBJECT
 public:
     ControlDibujado(Estado& e, int indice, QWidget* padre);
     int indice() const { return indice_; }
+    QAccessible::Role rolAccesible() const override { return QAccessible::Button; }
+    QString nombreAccesible() const override;
 
 protected:
     void paintEvent(QPaintEvent*) override;
     // Leaving the control gives the default pointer back.
     void leaveEvent(QEvent*) override;
+    void focusInEvent(QFocusEvent*) override { update(); }
+    void focusOutEvent(QFocusEvent*) override { update(); }
     virtual void pinta(QPainter& p) = 0;
     // The label of this control from the label table.
     QString etiqueta() const;

@@ -32,7 +32,17 @@ void Interruptor::mouseMoveEvent(QMouseEvent*) { cambiaCursor(21); }
 
 void Interruptor::mouseReleaseEvent(QMouseEvent* ev) {
     if (ev->button() != Qt::LeftButton || !rect().contains(ev->position().toPoint())) return;
+    cambia();
+}
+
+void Interruptor::keyPressEvent(QKeyEvent* ev) {
+    if (!EsTeclaPulsar(ev->key())) return ControlDibujado::keyPressEvent(ev);
+    cambia();
+}
+
+void Interruptor::cambia() {
     setEncendido(!encendido_);
+    AvisaValor(this);
     emit cambiado(encendido_);
 }
 

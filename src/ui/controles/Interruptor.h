@@ -13,6 +13,11 @@ public:
     bool encendido() const { return encendido_; }
     void setEncendido(bool si);
     QSize sizeHint() const override;
+    QAccessible::Role rolAccesible() const override { return QAccessible::CheckBox; }
+    QString nombreAccesible() const override { return etiqueta(); }
+    QString valorAccesible() const override { return encendido_ ? QStringLiteral("sí") : QStringLiteral("no"); }
+    bool marcable() const override { return true; }
+    bool marcado() const override { return encendido_; }
 
 signals:
     // After a click, with the new value.
@@ -22,8 +27,10 @@ protected:
     void pinta(QPainter& p) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent* ev) override;
+    void keyPressEvent(QKeyEvent* ev) override;
 
 private:
+    void cambia();
     bool encendido_ = false;
 };
 

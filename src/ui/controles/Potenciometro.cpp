@@ -42,6 +42,7 @@ void Potenciometro::mueve(int posicion) {
     posicion = std::clamp(posicion, 0, 100);
     if (posicion == posicion_) return;
     setPosicion(posicion);
+    AvisaValor(this);
     emit posicionCambiada(posicion_);
 }
 
@@ -64,6 +65,18 @@ void Potenciometro::mouseMoveEvent(QMouseEvent* ev) {
         return;
     }
     cambiaCursor(mando().contains(p) ? 22 : 0);
+}
+
+void Potenciometro::keyPressEvent(QKeyEvent* ev) {
+    switch (ev->key()) {
+        case Qt::Key_Left: case Qt::Key_Down: return mueve(posicion_ - 1);
+        case Qt::Key_Right: case Qt::Key_Up: return mueve(posicion_ + 1);
+        case Qt::Key_PageDown: return mueve(posicion_ - 10);
+        case Qt::Key_PageUp: return mueve(posicion_ + 10);
+        case Qt::Key_Home: return mueve(0);
+        case Qt::Key_End: return mueve(100);
+        default: ControlDibujado::keyPressEvent(ev);
+    }
 }
 
 void Potenciometro::mouseReleaseEvent(QMouseEvent* ev) {

@@ -14,6 +14,9 @@ public:
     int posicion() const { return posicion_; }
     void setPosicion(int posicion);
     QSize sizeHint() const override { return {131, 42}; }
+    QAccessible::Role rolAccesible() const override { return QAccessible::Slider; }
+    QString nombreAccesible() const override { return etiqueta(); }
+    QString valorAccesible() const override { return QString::number(posicion_); }
 
 signals:
     // While dragging and after a click on the track.
@@ -24,6 +27,8 @@ protected:
     void mousePressEvent(QMouseEvent* ev) override;
     void mouseMoveEvent(QMouseEvent* ev) override;
     void mouseReleaseEvent(QMouseEvent* ev) override;
+    // Left and right one step, page keys ten, Home and End the ends.
+    void keyPressEvent(QKeyEvent* ev) override;
 
 private:
     QRect mando() const;

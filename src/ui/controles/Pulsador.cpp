@@ -64,4 +64,9 @@ void Pulsador::mouseReleaseEvent(QMouseEvent* ev) {
     if (ev->button() == Qt::LeftButton && rect().contains(ev->position().toPoint())) pulsa();
 }
 
+void Pulsador::keyPressEvent(QKeyEvent* ev) {
+    if (EsTeclaPulsar(ev->key()) && !ev->isAutoRepeat()) return pulsa();
+    ControlDibujado::keyPressEvent(ev);
+}
+
 }  // namespace vedrano::controles

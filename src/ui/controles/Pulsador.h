@@ -26,6 +26,7 @@ public:
     // (0 restores them).
     void setSonidoUnico(int numero) { sonidoUnico_ = numero; }
     QSize sizeHint() const override;
+    QString nombreAccesible() const override { return etiqueta(); }
 
 signals:
     void accionado();
@@ -34,6 +35,7 @@ protected:
     void pinta(QPainter& p) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent* ev) override;
+    void keyPressEvent(QKeyEvent* ev) override;
 
 private:
     QString rotulo() const { return rotulo_.isEmpty() ? etiqueta() : rotulo_; }

@@ -48,16 +48,28 @@ void Selector::mouseMoveEvent(QMouseEvent*) { cambiaCursor(21); }
 
 void Selector::mouseReleaseEvent(QMouseEvent* ev) {
     if (!rect().contains(ev->position().toPoint())) return;
-    const int n = static_cast<int>(opciones_.size());
     if (ev->button() == Qt::LeftButton)
-        eleccion_ = eleccion_ % n + 1;
+        avanza(1);
     else if (ev->button() == Qt::RightButton)
-        eleccion_ = (eleccion_ + n - 2) % n + 1;
-    else
-        return;
+        avanza(-1);
+}
+
+void Selector::keyPressEvent(QKeyEvent* ev) {
+    const int k = ev->key();
+    if (EsTeclaPulsar(k) || k == Qt::Key_Right || k == Qt::Key_Down) return avanza(1);
+    if (k == Qt::Key_Left || k == Qt::Key_Up) return avanza(-1);
+    ControlDibujado::keyPressEvent(ev);
+}
+
+void Selector::avanza(int sentido) {
+    const int n = static_cast<int>(opciones_.size());
+    eleccion_ = sentido > 0 ? eleccion_ % n + 1 : (eleccion_ + n - 2) % n + 1;
     Suena(e_, 1, 6);
     repaint();
+    AvisaValor(this);
     emit eleccionCambiada(eleccion_);
 }
+
+QString Selector::valorAccesible() const { return Texto(opciones_[static_cast<std::size_t>(eleccion_ - 1)]).trimmed(); }
 
 }  // namespace vedrano::controles

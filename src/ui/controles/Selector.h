@@ -18,6 +18,9 @@ public:
     // Out-of-range choices are taken as the first.
     void setEleccion(int eleccion);
     QSize sizeHint() const override;
+    QAccessible::Role rolAccesible() const override { return QAccessible::ComboBox; }
+    QString nombreAccesible() const override { return etiqueta(); }
+    QString valorAccesible() const override;
 
 signals:
     void eleccionCambiada(int eleccion);
@@ -26,8 +29,12 @@ protected:
     void pinta(QPainter& p) override;
     void mouseMoveEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent* ev) override;
+    // Space, Return and the right or down arrow: the next choice; the left
+    // or up arrow: the previous one (the right click's).
+    void keyPressEvent(QKeyEvent* ev) override;
 
 private:
+    void avanza(int sentido);
     std::vector<std::string> opciones_;
     int eleccion_ = 1;
 };

@@ -9,6 +9,7 @@
 #include "app/Formato.h"
 #include "app/TablasControles.h"
 #include "app/Texto1252.h"
+#include "platform/NumerosLocales.h"
 #include "ui/controles/Estilo.h"
 
 namespace vedrano::controles {
@@ -34,6 +35,7 @@ Spin::Spin(Estado& e, int indice, QWidget* padre) : ControlDibujado(e, indice, p
     EstiloCampo(campo_);
     campo_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     campo_->setTextMargins(1, 0, 1, 0);
+    campo_->setAccessibleName(etiqueta());
     connect(campo_, &QLineEdit::editingFinished, this, &Spin::aceptaTexto);
     resize(sizeHint());
     muestra();
@@ -56,7 +58,8 @@ void Spin::setValor(float v) {
 }
 
 void Spin::muestra() {
-    const std::string texto = formateador_ ? formateador_(valor_) : Formato(valor_, FormatoIndice(indice_).Formato);
+    const std::string texto =
+        formateador_ ? formateador_(valor_) : plataforma::NumeroLocal(Formato(valor_, FormatoIndice(indice_).Formato));
     campo_->setText(Texto(texto));
     campo_->repaint();
 }
@@ -85,36 +88,46 @@ void Spin::mousePressEvent(QMouseEvent* ev) {
     repite(ev->position().y() <= height() / 2);
 }
 
-void Spin::repite(bool subir) {
+bool Spin::avanza(bool subir) {
     const FormatoValor& r = FormatoIndice(indice_);
+    if (!r.Ciclico && (subir ? valor_ >= r.Maximo : valor_ <= r.Minimo)) return false;
+    encendida_ = subir ? 1 : -1;
+    repaint();
+    valor_ += (subir ? 1 : -1) * r.Paso;
+    if (r.Ciclico) {
+        // Past one end the value comes round to the other.
+        if (valor_ > r.Maximo) valor_ = r.Minimo;
+        if (valor_ < r.Minimo) valor_ = r.Maximo;
+    } else {
+        if (subir && valor_ > r.Maximo) valor_ = r.Maximo;
+        if (!subir && valor_ < r.Minimo) valor_ = r.Minimo;
+    }
+    muestra();
+    emit paso(valor_);
+    Suena(e_, 1, 4);
+    Espera(e_, 40);
+    encendida_ = 0;
+    repaint();
+    return true;
+}
+
+void Spin::repite(bool subir) {
     QPointer<Spin> vivo(this);
     e_.SujecionSpin = true;
-    for (;;) {
-        if (!r.Ciclico && (subir ? valor_ >= r.Maximo : valor_ <= r.Minimo)) break;
-        if (!e_.SujecionSpin) break;
-        encendida_ = subir ? 1 : -1;
-        repaint();
-        valor_ += (subir ? 1 : -1) * r.Paso;
-        if (r.Ciclico) {
-            // Past one end the value comes round to the other.
-            if (valor_ > r.Maximo) valor_ = r.Minimo;
-            if (valor_ < r.Minimo) valor_ = r.Maximo;
-        } else {
-            if (subir && valor_ > r.Maximo) valor_ = r.Maximo;
-            if (!subir && valor_ < r.Minimo) valor_ = r.Minimo;
-        }
-        muestra();
-        emit paso(valor_);
-        Suena(e_, 1, 4);
-        Espera(e_, 40);
-        encendida_ = 0;
-        repaint();
+    while (e_.SujecionSpin && avanza(subir)) {
         Espera(e_, 40);
         AtiendeEventos();  // the mouse-up that ends the repeat arrives here
         if (!vivo) return;
     }
     almacena();
 }
+
+void Spin::keyPressEvent(QKeyEvent* ev) {
+    if (ev->key() != Qt::Key_Up && ev->key() != Qt::Key_Down) return ControlDibujado::keyPressEvent(ev);
+    if (avanza(ev->key() == Qt::Key_Up)) almacena();
+}
+
+QString Spin::valorAccesible() const { return campo_->text().trimmed(); }
 
 void Spin::aceptaTexto() {
     const FormatoValor& r = FormatoIndice(indice_);
@@ -126,6 +139,7 @@ void Spin::aceptaTexto() {
 }
 
 void Spin::almacena() {
+    AvisaValor(this);
     if (almacen_) almacen_(valor_);
     emit almacenado(valor_);
 }

@@ -33,6 +33,9 @@ public:
     void setLector(std::function<std::optional<float>(const std::string&)> l) { lector_ = std::move(l); }
 
     QSize sizeHint() const override;
+    QAccessible::Role rolAccesible() const override { return QAccessible::SpinBox; }
+    QString nombreAccesible() const override { return etiqueta(); }
+    QString valorAccesible() const override;
 
 signals:
     // After every step of a repeat.
@@ -46,9 +49,14 @@ protected:
     void mousePressEvent(QMouseEvent* ev) override;
     void mouseMoveEvent(QMouseEvent* ev) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    // The up and down arrows (also from the text field): one step, stored
+    // at once, as a short press of a key.
+    void keyPressEvent(QKeyEvent* ev) override;
 
 private:
     void repite(bool subir);
+    // One step of the repeat; false, doing nothing, at a closed end.
+    bool avanza(bool subir);
     void muestra();
     void aceptaTexto();
     void almacena();

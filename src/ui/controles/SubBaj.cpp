@@ -42,6 +42,20 @@ void SubBaj::mouseMoveEvent(QMouseEvent* ev) {
     emit movido(p.x(), p.y(), dentro);
 }
 
+QString SubBaj::nombreAccesible() const { return Texto(rotulo_); }
+
+void SubBaj::setValor(const QString& valor) {
+    if (valor == valor_) return;
+    valor_ = valor;
+    AvisaValor(this);
+}
+
+void SubBaj::keyPressEvent(QKeyEvent* ev) {
+    if (ev->key() == Qt::Key_Left) return emit tecla(-1);
+    if (ev->key() == Qt::Key_Right) return emit tecla(1);
+    ControlDibujado::keyPressEvent(ev);
+}
+
 void SubBaj::mouseReleaseEvent(QMouseEvent*) { emit soltado(); }
 
 void SubBaj::leaveEvent(QEvent* ev) {

@@ -20,11 +20,17 @@ public:
     int estadoDibujado() const { return estado_; }
     static bool enBanda(QPoint p) { return p.x() >= 10 && p.x() <= 53 && p.y() >= 12 && p.y() <= 22; }
     QSize sizeHint() const override;
+    QAccessible::Role rolAccesible() const override { return QAccessible::SpinBox; }
+    QString nombreAccesible() const override;
+    QString valorAccesible() const override { return valor_; }
+    // What the pair steps, as the panel shows it, for the screen reader.
+    void setValor(const QString& valor);
 
 signals:
     void pulsado(int x);                 // a left press, with its x (left arrow when x < 33)
     void movido(int x, int y, bool enBanda);  // pointer moves; (-1, -1, false) when it leaves
     void soltado();
+    void tecla(int signo);  // the left (-1) or right (+1) arrow key with the focus here
 
 protected:
     void pinta(QPainter& p) override;
@@ -32,10 +38,12 @@ protected:
     void mouseMoveEvent(QMouseEvent* ev) override;
     void mouseReleaseEvent(QMouseEvent* ev) override;
     void leaveEvent(QEvent*) override;
+    void keyPressEvent(QKeyEvent* ev) override;
 
 private:
     std::string rotulo_;
     int estado_ = -1;
+    QString valor_;
 };
 
 }  // namespace vedrano::controles

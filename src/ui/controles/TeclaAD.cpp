@@ -41,6 +41,16 @@ void TeclaAD::mouseMoveEvent(QMouseEvent* ev) {
 
 void TeclaAD::mouseReleaseEvent(QMouseEvent*) { e_.SujecionSpin = false; }
 
+void TeclaAD::keyPressEvent(QKeyEvent* ev) {
+    const int sentido = ev->key() == Qt::Key_Up ? 1 : ev->key() == Qt::Key_Down ? -1 : 0;
+    if (sentido == 0) return ControlDibujado::keyPressEvent(ev);
+    QPointer<TeclaAD> vivo(this);
+    emit pulsada(sentido);
+    Suena(e_, 1, 4);
+    if (paso_) paso_(sentido);
+    if (vivo) emit soltada();
+}
+
 void TeclaAD::mousePressEvent(QMouseEvent* ev) {
     if (ev->button() != Qt::LeftButton || e_.CursorActual != 21) return;
     const int sentido = ev->position().y() <= origenFlechas().y() + 10 ? 1 : -1;

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "ui/controles/ControlDibujado.h"
+#include "ui/controles/Estilo.h"
 
 namespace vedrano::controles {
 
@@ -18,6 +19,7 @@ public:
     // One step of the repeat, in the direction given.
     void setPaso(std::function<void(int sentido)> paso) { paso_ = std::move(paso); }
     QSize sizeHint() const override;
+    QString nombreAccesible() const override { return Texto(texto_).trimmed(); }
 
 signals:
     // Before the first step and after the last.
@@ -29,6 +31,8 @@ protected:
     void mousePressEvent(QMouseEvent* ev) override;
     void mouseMoveEvent(QMouseEvent* ev) override;
     void mouseReleaseEvent(QMouseEvent*) override;
+    // The up and down arrows: one step each, as a short press of a half.
+    void keyPressEvent(QKeyEvent* ev) override;
 
 private:
     QPoint origenFlechas() const { return {(width() - 17) / 2, 4}; }
