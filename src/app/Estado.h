@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string>
 
+#include "config/Preferencias.h"
+
 namespace vedrano {
 
 // Results of the solar-system computations for one body (indices 1..11):
@@ -144,6 +146,11 @@ struct Estado {
     int16_t FilaPulsador = 0;
     int16_t RespuestaMensaje = 0;  // 0 = Cancel
     int16_t BotonesMensaje = 1, IconoMensaje = 0, TemaMensaje = 0;  // of the last message shown
+
+    // Program preferences kept apart from the configuration files, and their
+    // file (empty: not kept, as in tools and tests).
+    Preferencias Pref;
+    std::string ArchivoPreferencias;
 
     // Folders.
     std::string DirPrograma, DirArchivo, DirDatos;

@@ -5,6 +5,8 @@
 #include <tuple>
 
 #include "app/TablasControles.h"
+#include "config/Preferencias.h"
+#include "ui/controles/Estilo.h"
 #include "ui/controles/Interruptor.h"
 #include "ui/controles/Potenciometro.h"
 #include "ui/controles/Selector.h"
@@ -47,6 +49,7 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
     });
     cielo->contenido()->addWidget(orientacion_);
     nuevoInterruptor(cielo->contenido(), 7, e.Precesion);
+    precisionAlta_ = nuevaPreferencia(cielo->contenido(), "Precisi\xF3n alta", e.Pref.PrecisionAlta);
     // The telescope circle and its field, shown in degrees and kept in radians.
     nuevoInterruptor(cielo->contenido(), 8, e.Telescopio);
     auto* campo = new Spin(e, 24);
@@ -101,6 +104,15 @@ Interruptor* Personal::nuevoInterruptor(QBoxLayout* donde, int indice, bool& cam
     return s;
 }
 
+Interruptor* Personal::nuevaPreferencia(QBoxLayout* donde, const char* rotulo, bool& campo) {
+    auto* s = new Interruptor(ctx_.e, Texto(rotulo));
+    s->setEncendido(campo);
+    s->setMinimumWidth(s->sizeHint().width());
+    connect(s, &Interruptor::cambiado, this, [&campo](bool si) { campo = si; });
+    donde->addWidget(s);
+    return s;
+}
+
 Interruptor* Personal::interruptor(int indice) const {
     auto it = interruptores_.find(indice);
     return it == interruptores_.end() ? nullptr : it->second;
@@ -109,11 +121,16 @@ Interruptor* Personal::interruptor(int indice) const {
 void AbrePersonal(ContextoDialogo& ctx) {
     ctx.e.Cambiado = false;
     const auto antes = Ajustes(ctx.e);
+    const Preferencias preferencias = ctx.e.Pref;
     {
         Personal d(ctx);
         MuestraCentrado(d, ctx.cielo);
     }
-    if (Ajustes(ctx.e) == antes) return;
+    if (ctx.e.Pref != preferencias) {
+        std::string error = EscribePreferencias(ctx.e.Pref, ctx.e.ArchivoPreferencias);
+        if (!error.empty()) ctx.mensajes.Mensaje(error, "Personalizar", 1, 1);
+    }
+    if (Ajustes(ctx.e) == antes && ctx.e.Pref == preferencias) return;
     ctx.e.Cambiado = true;
     // The hour format and precession reach the picture only through the
     // time refresh and the panel texts of the full update.

@@ -16,6 +16,7 @@
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "config/LeeConfiguracion.h"
+#include "config/Preferencias.h"
 #include "dialogs/CargaGuar.h"
 #include "dialogs/Objetos.h"
 #include "dialogs/Personal.h"
@@ -205,6 +206,31 @@ TEST_F(Opciones, PersonalActualizaSoloSiCambia) {
     EXPECT_EQ(actualizaciones, 1);
     EXPECT_TRUE(e.Cambiado);
     EXPECT_EQ(e.FormatoHora, 2);
+}
+
+TEST_F(Opciones, PersonalGuardaLasPreferenciasDelPrograma) {
+    QTemporaryDir dir;
+    e.ArchivoPreferencias = dir.filePath("vedrano/preferencias.ini").toStdString();
+    CuandoAparezca<Personal>([](Personal& d) {
+        Pulsa(d.precisionAlta());
+        Pulsa(d.botonSalir());
+    });
+    AbrePersonal(*ctx);
+    EXPECT_TRUE(e.Pref.PrecisionAlta);
+    EXPECT_EQ(actualizaciones, 1);
+    EXPECT_TRUE(LeePreferencias(e.ArchivoPreferencias).PrecisionAlta);
+    EXPECT_TRUE(m.textos.empty());
+
+    // A file that cannot be written is said once; the choice holds anyway.
+    e.ArchivoPreferencias = "/proc/vedrano/preferencias.ini";
+    CuandoAparezca<Personal>([](Personal& d) {
+        Pulsa(d.precisionAlta());
+        Pulsa(d.botonSalir());
+    });
+    AbrePersonal(*ctx);
+    EXPECT_FALSE(e.Pref.PrecisionAlta);
+    ASSERT_EQ(m.textos.size(), 1u);
+    EXPECT_NE(m.textos[0].find("No se han podido guardar las preferencias"), std::string::npos);
 }
 
 class Configuraciones : public Opciones {

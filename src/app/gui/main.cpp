@@ -12,6 +12,7 @@
 #include "catalogue/CargaCatalogos.h"
 #include "cli/Argumentos.h"
 #include "config/LeeConfiguracion.h"
+#include "config/Preferencias.h"
 #include "dialogs/Mensajes.h"
 #include "dialogs/MensajesVentana.h"
 #include "platform/CarpetaPrograma.h"
@@ -53,6 +54,8 @@ int main(int argc, char** argv) {
     QPointer<QWidget> careta = MuestraCareta(e);
 
     PreparaCarpetas(e, plataforma::CarpetaPrograma(argv[0]), plataforma::CarpetaSistema());
+    e.ArchivoPreferencias = RutaPreferencias();
+    e.Pref = LeePreferencias(e.ArchivoPreferencias);
 
     plataforma::PantallaQt pantalla;
     MensajesVentana inicio(e, nullptr);

@@ -48,7 +48,9 @@ QString ControlDibujado::nombreAccesible() const {
 
 void ControlDibujado::leaveEvent(QEvent*) { cambiaCursor(0); }
 
-QString ControlDibujado::etiqueta() const { return Texto(Etiqueta(indice_)).trimmed(); }
+QString ControlDibujado::etiqueta() const {
+    return rotulo_.isEmpty() ? Texto(Etiqueta(indice_)).trimmed() : rotulo_;
+}
 
 void ControlDibujado::cambiaCursor(int16_t numero) {
     if (e_.CursorActual != numero) fijaCursor(numero);

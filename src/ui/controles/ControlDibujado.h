@@ -45,7 +45,7 @@ protected:
     void focusInEvent(QFocusEvent*) override { update(); }
     void focusOutEvent(QFocusEvent*) override { update(); }
     virtual void pinta(QPainter& p) = 0;
-    // The label of this control from the label table.
+    // The label of this control: its own, or else the label table's entry.
     QString etiqueta() const;
     void fijaCursor(int16_t numero) { FijaCursor(e_, this, numero); }
     // Sets `numero` only when another pointer is the current one.
@@ -53,6 +53,7 @@ protected:
 
     Estado& e_;
     const int indice_;
+    QString rotulo_;  // for controls beyond the label table (program preferences)
 };
 
 }  // namespace vedrano::controles

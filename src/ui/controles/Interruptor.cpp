@@ -13,6 +13,11 @@ Interruptor::Interruptor(Estado& e, int indice, QWidget* padre) : ControlDibujad
     resize(sizeHint());
 }
 
+Interruptor::Interruptor(Estado& e, const QString& rotulo, QWidget* padre) : ControlDibujado(e, -1, padre) {
+    rotulo_ = rotulo;
+    resize(sizeHint());
+}
+
 void Interruptor::setEncendido(bool si) {
     encendido_ = si;
     repaint();

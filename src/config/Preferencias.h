@@ -1,0 +1,42 @@
+// Program preferences that the configuration files have no item for: one
+// small settings file under the user's configuration folder, read at start
+// and written when a preference changes. It is never required: a missing or
+// damaged file gives the defaults, and the ".ls1" files stay as they are.
+#pragma once
+#include <string>
+
+namespace vedrano {
+
+// Each preference is one line: X(type, name, default). The name is the
+// member of Preferencias and the key in the file; the types are bool and
+// int.
+#define VEDRANO_PREFERENCIAS(X)          \
+    X(bool, PrecisionAlta, false)  // the precise model of the Sun, the Moon and the planets
+
+struct Preferencias {
+#define VEDRANO_MIEMBRO(tipo, nombre, defecto) tipo nombre = defecto;
+    VEDRANO_PREFERENCIAS(VEDRANO_MIEMBRO)
+#undef VEDRANO_MIEMBRO
+    bool operator==(const Preferencias&) const = default;
+};
+
+// The settings file: <user configuration folder>/vedrano/preferencias.ini,
+// or an empty text when the system names no such folder.
+std::string RutaPreferencias();
+
+// Reads the file at `ruta`. Lines "clave=valor" set known keys; blank
+// lines, "[section]" and "#" or ";" comments, unknown keys and values that
+// do not read as their type are passed over, so that a damaged file still
+// yields every good value and the defaults for the rest.
+Preferencias LeePreferencias(const std::string& ruta);
+
+// The file's text for `p`: every key, one per line, under "[General]".
+std::string TextoPreferencias(const Preferencias& p);
+
+// Writes `p` to `ruta` whole or not at all, creating its folder. Returns an
+// empty text, or the message (Windows-1252) that tells the user it could
+// not be written (the preferences then hold for this session only). An
+// empty `ruta` keeps nothing and says nothing.
+std::string EscribePreferencias(const Preferencias& p, const std::string& ruta);
+
+}  // namespace vedrano

@@ -1,0 +1,71 @@
+// The program-preferences file: defaults without it, good values kept from
+// a damaged one, and a write that replaces the file whole or says why not.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "config/Preferencias.h"
+
+using namespace vedrano;
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path CarpetaPrueba(const char* nombre) {
+    fs::path d = fs::temp_directory_path() / "vedrano_preferencias" / nombre;
+    fs::remove_all(d);
+    return d;
+}
+
+void Escribe(const fs::path& ruta, const std::string& texto) {
+    fs::create_directories(ruta.parent_path());
+    std::ofstream(ruta, std::ios::binary) << texto;
+}
+
+std::string Lee(const fs::path& ruta) {
+    std::ifstream f(ruta, std::ios::binary);
+    std::stringstream s;
+    s << f.rdbuf();
+    return s.str();
+}
+
+}  // namespace
+
+TEST(Preferencias, SinArchivoOConArchivoDanadoDanLosValoresPorDefecto) {
+    fs::path d = CarpetaPrueba("lectura");
+    EXPECT_EQ(LeePreferencias((d / "no-existe.ini").string()), Preferencias{});
+    EXPECT_EQ(LeePreferencias(""), Preferencias{});
+    EXPECT_EQ(LeePreferencias(d.string()), Preferencias{});  // a folder, not a file
+
+    // Good lines count whatever surrounds them; bad values and unknown keys
+    // are passed over.
+    Escribe(d / "a.ini", std::string("basura sin igual\n\x01\xFF\x00zz\n[General]\r\n  PrecisionAlta = true \r\nOtra=3\n", 66));
+    EXPECT_TRUE(LeePreferencias((d / "a.ini").string()).PrecisionAlta);
+    Escribe(d / "b.ini", "PrecisionAlta=quizas\nPrecisionAlta\n=true\n");
+    EXPECT_FALSE(LeePreferencias((d / "b.ini").string()).PrecisionAlta);
+    Escribe(d / "c.ini", "; PrecisionAlta=true\n# PrecisionAlta=true\n");
+    EXPECT_FALSE(LeePreferencias((d / "c.ini").string()).PrecisionAlta);
+}
+
+TEST(Preferencias, EscribirYLeerDevuelveLoEscritoYUnFalloLoDice) {
+    fs::path d = CarpetaPrueba("escritura");
+    fs::path ruta = d / "vedrano" / "preferencias.ini";  // the folder is made
+    Preferencias p;
+    p.PrecisionAlta = true;
+    EXPECT_EQ(EscribePreferencias(p, ruta.string()), "");
+    EXPECT_EQ(LeePreferencias(ruta.string()), p);
+    p.PrecisionAlta = false;
+    EXPECT_EQ(EscribePreferencias(p, ruta.string()), "");
+    EXPECT_EQ(LeePreferencias(ruta.string()), p);
+    EXPECT_EQ(Lee(ruta), TextoPreferencias(p));
+
+    // Where a file stands in the way of the folder, nothing is written, the
+    // old file is kept and the user is told.
+    Escribe(d / "tapon", "x");
+    std::string error = EscribePreferencias(p, (d / "tapon" / "preferencias.ini").string());
+    EXPECT_NE(error.find("No se han podido guardar las preferencias"), std::string::npos);
+    EXPECT_EQ(Lee(d / "tapon"), "x");
+    EXPECT_EQ(EscribePreferencias(p, ""), "");  // not kept: nothing to say
+}
