@@ -13,6 +13,7 @@ enum CodigoError : int {
     ErrDivisionCero = 11,       // division by zero
     ErrNombreArchivo = 52,      // bad file name or number
     ErrArchivoNoExiste = 53,    // file not found
+    ErrFinDeArchivo = 62,       // input past the end of a file
 };
 
 class ErrorEjecucion : public std::runtime_error {

@@ -74,7 +74,12 @@ std::string TextoHoras(float ar, Estado* e) {
 std::string TextoDireccion(double az, Estado* e) {
     float a = ASingle(az + PI / 8);
     if (a >= 6.2831855f) a = 0;
-    long sector = static_cast<long>(Int(a * RAD_A_GRADOS / 45)) + 1;
+    // A negative azimuth gives a sector below 1, which the string function
+    // refuses (error 5); one too far below for any integer, or not a number,
+    // is refused the same way before it is converted.
+    double k = Int(a * RAD_A_GRADOS / 45) + 1;
+    if (!(k >= 1)) throw ErrorEjecucion(ErrArgumentoInvalido);
+    long sector = static_cast<long>(k);
     std::string rumbo = Mid(RUMBOS, 2 * sector - 1, 2);
     int16_t grados = CInt(az * RAD_A_GRADOS);
     if (e) {

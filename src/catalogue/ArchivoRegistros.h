@@ -23,8 +23,10 @@ public:
     void Abre(const std::string& ruta, std::size_t largoRegistro);
 
     // Reads records primero, primero + 1, ... (numbered from 1) into the
-    // elements of `destino`. Records past the end of the file read blank.
-    // A file that is not open raises 52 and leaves `destino` as it was.
+    // elements of `destino`. Records past the end of the file read blank,
+    // and then the short file raises 62 (input past the end), so that a cut
+    // or empty file is told and never passes for a whole one. A file that
+    // is not open raises 52 and leaves `destino` as it was.
     template <class Registro>
     void Lee(long primero, std::span<Registro> destino) {
         std::string bytes = LeeBytes(primero, destino.size());
@@ -33,6 +35,7 @@ public:
             std::size_t desde = i * largo_;
             Decodifica(desde < todo.size() ? todo.substr(desde, largo_) : std::string_view{}, destino[i]);
         }
+        if (todo.size() < destino.size() * largo_) throw ErrorEjecucion(ErrFinDeArchivo);
     }
 
     // A file that is not open raises 52.

@@ -61,6 +61,19 @@ void ListaEstrellas(TrampaCarga& siFalla, Catalogos& c) {
     c.IndiceListaEstrellas.resize(static_cast<std::size_t>(contador + 1));
 }
 
+// A count names the last record drawn at a level; one beyond its table
+// would send a plotter past the table's end. Such counts are brought within
+// the table and reported as a subscript out of range.
+void AjustaCuentas(TablaCuentas& cuentas, int tamano) {
+    bool fuera = false;
+    for (int16_t& v : cuentas) {
+        if (v >= -1 && v < tamano) continue;
+        v = static_cast<int16_t>(v < -1 ? -1 : tamano - 1);
+        fuera = true;
+    }
+    if (fuera) throw ErrorEjecucion(ErrSubindice);
+}
+
 }  // namespace
 
 void CargaCatalogos(const std::string& dirDatos, Catalogos& c, Notificador& n) {
@@ -128,7 +141,12 @@ void CargaCatalogos(const std::string& dirDatos, Catalogos& c, Notificador& n) {
     std::array<TablaCuentas, 8> cuentas;
     for (std::size_t i = 0; i < cuentas.size(); ++i) cuentas[i] = *destinos[i];
     CargaTabla(siFalla, dirDatos, "VDRDATA.DAT", LARGO_CUENTAS, 1, std::span<TablaCuentas>(cuentas));
-    for (std::size_t i = 0; i < cuentas.size(); ++i) *destinos[i] = cuentas[i];
+    const int tamanos[] = {N_ESTRELLAS,       N_ESTRELLAS_NOMBRE, N_FIGURAS,      N_GALAXIAS,
+                           N_NEB_PLANETARIAS, N_NEB_DIFUSAS,      N_CUM_ABIERTOS, N_CUM_GLOBULARES};
+    for (std::size_t i = 0; i < cuentas.size(); ++i) {
+        siFalla.AvisaYSigue([&] { AjustaCuentas(cuentas[i], tamanos[i]); });
+        *destinos[i] = cuentas[i];
+    }
 }
 
 }  // namespace vedrano

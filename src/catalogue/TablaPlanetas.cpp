@@ -1,9 +1,8 @@
 #include "catalogue/TablaPlanetas.h"
 
-#include <fstream>
-#include <iterator>
+#include <span>
 
-#include "app/ErrorEjecucion.h"
+#include "catalogue/ArchivoRegistros.h"
 
 namespace vedrano {
 
@@ -22,16 +21,12 @@ ElementosPlaneta DecodificaPlaneta(std::string_view registro) {
 }
 
 void LeeTablaPlanetas(const std::string& fichero, TablaPlanetas& tabla) {
-    std::ifstream f(fichero, std::ios::binary);
-    if (!f) throw ErrorEjecucion(ErrArchivoNoExiste);
-    std::string bytes((std::istreambuf_iterator<char>(f)), std::istreambuf_iterator<char>());
-    for (int i = 1; i <= 11; ++i) {
-        std::size_t desde = static_cast<std::size_t>(i) * LARGO_REGISTRO_PLANETA;  // record i + 1
-        std::string_view reg;
-        if (desde < bytes.size())
-            reg = std::string_view(bytes).substr(desde, LARGO_REGISTRO_PLANETA);
-        tabla[static_cast<std::size_t>(i)] = DecodificaPlaneta(reg);
-    }
+    // Through the record reader: a folder, a missing file and a short one
+    // raise their run-time errors instead of a stream exception.
+    ArchivoRegistros f;
+    f.Abre(fichero, LARGO_REGISTRO_PLANETA);
+    f.Lee(2, std::span<ElementosPlaneta>(tabla.data() + 1, 11));
+    f.Cierra();
 }
 
 }  // namespace vedrano

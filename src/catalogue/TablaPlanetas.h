@@ -32,7 +32,8 @@ inline constexpr double ORIGEN_ELEMENTOS = 31739.5;
 ElementosPlaneta DecodificaPlaneta(std::string_view registro);
 
 // Reads records 2 to 12 of the file into indices 1 to 11. A missing file
-// raises ErrorEjecucion(53); records past the end of the file read blank.
+// (or a folder) raises ErrorEjecucion(53); records past the end of the file
+// read blank, and a short file then raises 62.
 void LeeTablaPlanetas(const std::string& fichero, TablaPlanetas& tabla);
 
 }  // namespace vedrano

@@ -12,8 +12,9 @@ namespace vedrano {
 
 inline constexpr const char* TITULO_CARGA = "Cargando datos iniciales";
 
-// "ERROR CTA53: No existe el fichero" for a missing file, "ERROR CTA" and
-// the number otherwise; with a file, its path on the next line.
+// "ERROR CTA53: No existe el fichero" for a missing file, "ERROR CTA62:
+// Faltan datos en el fichero" for a short one, "ERROR CTA" and the number
+// otherwise; with a file, its path on the next line.
 std::string TextoErrorCarga(int numero, const std::string& ruta = {});
 
 class TrampaCarga {

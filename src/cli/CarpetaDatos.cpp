@@ -26,4 +26,9 @@ void AvisosEnErrorEstandar::Avisa(const std::string& texto, const std::string& t
     hubo = true;
 }
 
+std::string CarpetaDe(const std::filesystem::path& ruta) {
+    std::string c = ruta.parent_path().string();
+    return c.empty() ? "./" : c + "/";
+}
+
 }  // namespace vedrano

@@ -2,6 +2,7 @@
 // of their loading.
 #pragma once
 #include <QString>
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -23,5 +24,9 @@ public:
     void Avisa(const std::string& texto, const std::string& titulo) override;
     bool hubo = false;
 };
+
+// The folder of a file named on the command line, ended by "/": "./" for a
+// bare name, which is looked for in the current folder.
+std::string CarpetaDe(const std::filesystem::path& ruta);
 
 }  // namespace vedrano

@@ -31,12 +31,6 @@ public:
     }
 };
 
-// DirArchivo and name of a path given on the command line.
-std::string Carpeta(const std::filesystem::path& ruta) {
-    std::string c = ruta.parent_path().string();
-    return c.empty() ? "./" : c + "/";
-}
-
 // A path given on the command line, in the system's encoding of names.
 std::filesystem::path Ruta(const QString& texto) { return QFile::encodeName(texto).toStdString(); }
 
@@ -72,7 +66,7 @@ int ComandoConfiguracion(const OpcionesCli& o) {
     }
     Estado e;
     std::filesystem::path entrada = Ruta(o.lee);
-    e.DirArchivo = Carpeta(entrada);
+    e.DirArchivo = CarpetaDe(entrada);
     ResultadoConfiguracion r = LeeConfiguracion(e, entrada.filename().string(), ui);
     // An overflow is not shown by the reader; the command line still says so.
     if (r.error == ErrDesbordamiento) ui.Mensaje(r.texto, A1252("Cargar configuración"), 1, 1);
@@ -84,7 +78,7 @@ int ComandoConfiguracion(const OpcionesCli& o) {
     if (!SalidaEscrita()) return 1;
     if (!o.escribe.isEmpty()) {
         std::filesystem::path salida = Ruta(o.escribe);
-        e.DirArchivo = Carpeta(salida);
+        e.DirArchivo = CarpetaDe(salida);
         ResultadoConfiguracion w = EscribeConfiguracion(e, salida.filename().string(), ui, false);
         if (!w.escrito) {
             std::cerr << "vedrano-cli configuracion: no se ha escrito " << salida.string() << "\n";

@@ -86,7 +86,7 @@ int ComandoDibuja(int argc, char** argv, const OpcionesCli& o) {
     namespace fs = std::filesystem;
     fs::path archivo = o.config.isEmpty() ? fs::path(*datos).parent_path().parent_path() / "Archivo" / "Inicial.ls1"
                                           : fs::path(QFile::encodeName(o.config).toStdString());
-    e.DirArchivo = archivo.parent_path().string() + "/";
+    e.DirArchivo = CarpetaDe(archivo);
     e.DirDatos = *datos;
     ResultadoConfiguracion r = LeeConfiguracion(e, archivo.filename().string(), consola);
     // Without a configuration named, the defaults are a picture as well.

@@ -2,10 +2,11 @@
 
 #include <cmath>
 #include <cstring>
-#include <fstream>
 #include <functional>
 #include <iomanip>
+#include <span>
 #include <sstream>
+#include <iostream>
 #include <ostream>
 #include <vector>
 
@@ -17,6 +18,8 @@
 #include "astro/Planetas.h"
 #include "astro/Precesion.h"
 #include "astro/Tiempo.h"
+#include "catalogue/ArchivoRegistros.h"
+#include "catalogue/Catalogos.h"
 #include "catalogue/TablaPlanetas.h"
 #include "config/EscribeConfiguracion.h"
 
@@ -29,23 +32,15 @@ struct Lugar {
     double longitud = 0, latitud = 0;
 };
 
-// The places file: 28-byte records of a 20-character name and two
-// little-endian Singles (longitude west positive, latitude).
+// The places of the places file, through the catalogue's record reader.
 std::vector<Lugar> LeeLugares(const std::string& dirDatos) {
-    std::ifstream f(dirDatos + "VDRDATH.DAT", std::ios::binary);
-    if (!f) throw ErrorEjecucion(ErrArchivoNoExiste);
+    std::vector<Ciudad> ciudades(N_CIUDADES);
+    ArchivoRegistros f;
+    f.Abre(dirDatos + "VDRDATH.DAT", LARGO_CIUDAD);
+    f.Lee(1, std::span<Ciudad>(ciudades));
+    f.Cierra();
     std::vector<Lugar> lugares;
-    char registro[28];
-    while (f.read(registro, sizeof registro)) {
-        Lugar l;
-        l.nombre.assign(registro, 20);
-        float lon, lat;
-        std::memcpy(&lon, registro + 20, 4);
-        std::memcpy(&lat, registro + 24, 4);
-        l.longitud = lon;
-        l.latitud = lat;
-        lugares.push_back(l);
-    }
+    for (const Ciudad& c : ciudades) lugares.push_back({c.Nombre.texto(), c.Longitud, c.Latitud});
     return lugares;
 }
 
@@ -444,9 +439,19 @@ const Muestra MUESTRAS[] = {
 }  // namespace
 
 int GeneraMuestras(const std::string& carpeta, const std::string& dirDatos, std::ostream& informe) {
-    std::vector<Lugar> lugares = LeeLugares(dirDatos);
+    std::vector<Lugar> lugares;
     TablaPlanetas planetas{};
-    LeeTablaPlanetas(dirDatos + "VDRDATF.DAT", planetas);
+    const char* fichero = "VDRDATH.DAT";
+    try {
+        lugares = LeeLugares(dirDatos);
+        fichero = "VDRDATF.DAT";
+        LeeTablaPlanetas(dirDatos + fichero, planetas);
+    } catch (const ErrorEjecucion& error) {
+        // Samples from missing or cut data would be wrong: none is written.
+        std::cerr << "vedrano-cli configuracion: ERROR " << error.numero() << " al leer " << dirDatos << fichero
+                  << "\n";
+        return error.numero();
+    }
     SinPreguntas ui(informe);
     for (const Muestra& m : MUESTRAS) {
         Escena s(lugares, planetas);

@@ -1,6 +1,7 @@
 // vedrano-cli: the planetarium's core from the command line.
 #include <iostream>
 
+#include "app/ErrorEjecucion.h"
 #include "cli/Argumentos.h"
 #include "cli/ComandoCalcula.h"
 #include "cli/ComandoConfiguracion.h"
@@ -19,11 +20,21 @@ int main(int argc, char** argv) {
         }
         return a.codigo;
     }
-    switch (a.opciones.orden) {
-        case Orden::Calcula: return ComandoCalcula(a.opciones);
-        case Orden::Configuracion: return ComandoConfiguracion(a.opciones);
-        case Orden::Lista: return ComandoLista(a.opciones);
-        case Orden::Dibuja: return ComandoDibuja(argc, argv, a.opciones);
+    // The last trap: a run-time error that no order caught ends the run with
+    // its number and a failure code, never with an abort.
+    try {
+        switch (a.opciones.orden) {
+            case Orden::Calcula: return ComandoCalcula(a.opciones);
+            case Orden::Configuracion: return ComandoConfiguracion(a.opciones);
+            case Orden::Lista: return ComandoLista(a.opciones);
+            case Orden::Dibuja: return ComandoDibuja(argc, argv, a.opciones);
+        }
+    } catch (const ErrorEjecucion& error) {
+        std::cerr << "vedrano-cli: ERROR " << error.numero() << "\n";
+        return 1;
+    } catch (const std::exception& error) {
+        std::cerr << "vedrano-cli: error: " << error.what() << "\n";
+        return 1;
     }
     return 2;
 }

@@ -104,7 +104,13 @@ std::string TextoNumero(double valor, int cifras) {
 
 std::string TextoEntero(int16_t valor) { return std::to_string(valor); }
 std::string TextoSingle(float valor) { return TextoNumero(static_cast<double>(valor), 7); }
-std::string TextoDouble(double valor) { return TextoNumero(valor, 15); }
+std::string TextoDouble(double valor) {
+    // Fifteen digits round the largest Doubles up past the largest there is
+    // ("1.79769313486232E+308"), which no reader could take back: those few
+    // are written with all seventeen.
+    if (std::fabs(valor) > 1.79769313486231e308) return TextoNumero(valor, 17);
+    return TextoNumero(valor, 15);
+}
 std::string TextoBooleano(bool valor) { return valor ? "#TRUE#" : "#FALSE#"; }
 
 std::string TextoCadena(std::string_view valor) {

@@ -10,7 +10,6 @@ enum CodigoErrorArchivo : int {
     ErrTipoNoCoincide = 13,
     ErrIoDispositivo = 57,
     ErrDiscoLleno = 61,
-    ErrFinDeArchivo = 62,
     ErrPermisoDenegado = 70,
     ErrAccesoRuta = 75,
     ErrRutaNoEncontrada = 76,

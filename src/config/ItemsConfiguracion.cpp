@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "app/TablasControles.h"
 #include "catalogue/Catalogos.h"
 
 namespace vedrano {
@@ -14,9 +15,14 @@ constexpr double MEDIO_PI = 1.5707963268;
 // The instants the calendar can show: 1 January 4713 BC, 0:00, to the end
 // of 31 December 7999.
 constexpr double PRIMER_DIA = -0.5, ULTIMO_DIA = 4642999.5;
-// Levels index the count tables of the catalogues (eight entries). Star and
-// constellation levels of 0 or below draw nothing, so they have no lower bound.
-constexpr double NIVEL_MAXIMO = 7;
+// The telescope field, 0.5 to 30 degrees as its spin field allows, in
+// radians rounded outward so that any value the field stores reads back.
+constexpr double CAMPO_MINIMO = 0.0087, CAMPO_MAXIMO = 0.5236;
+
+// A file is read back only within what the control that sets the item
+// allows: a value beyond it would reach a table index, a pause or an integer
+// conversion the program was never meant to meet.
+#define LIMITES(control) FormatoIndice(control).Minimo, FormatoIndice(control).Maximo
 
 #define ENTERO(campo) CampoItem{CampoEntero{[](Estado& e) -> int16_t& { return e.campo; }}}
 #define SINGLE(campo) CampoItem{CampoSingle{[](Estado& e) -> float& { return e.campo; }}}
@@ -33,9 +39,9 @@ const ItemConfiguracion LINEA1[] = {
     {"IndiceLugar", ENTERO(IndiceLugar), 0, N_CIUDADES - 1, true, 95},
     {"Longitud", DOUBLE(Longitud), -DOS_PI, DOS_PI, true, 0.0829029977321625},
     {"Latitud", DOUBLE(Latitud), -MEDIO_PI, MEDIO_PI, true, 0.640890002250671},
-    {"Direccion", DOUBLE(Direccion), -INF, INF, true, 3.1415926536},
-    {"Elevacion", DOUBLE(Elevacion), -MEDIO_PI, MEDIO_PI, true, 0.785398852000001},
-    {"Zoom", SINGLE(Zoom), 1, 15, true, 2.0},
+    {"Direccion", DOUBLE(Direccion), 0, DOS_PI, true, 3.1415926536},
+    {"Elevacion", DOUBLE(Elevacion), 0, MEDIO_PI, true, 0.785398852000001},
+    {"Zoom", SINGLE(Zoom), LIMITES(30), true, 2.0},
 };
 
 const ItemConfiguracion LINEA2[] = {
@@ -43,13 +49,13 @@ const ItemConfiguracion LINEA2[] = {
 };
 
 const ItemConfiguracion LINEA3[] = {
-    {"NivelEstrellas", ENTERO(NivelEstrellas), -INF, NIVEL_MAXIMO, true, 1},
-    {"NivelConstelaciones", ENTERO(NivelConstelaciones), -INF, NIVEL_MAXIMO, true, 1},
-    {"NivelGalaxias", ENTERO(NivelGalaxias), 0, NIVEL_MAXIMO, true, 3},
-    {"NivelNebPlanetarias", ENTERO(NivelNebPlanetarias), 0, NIVEL_MAXIMO, true, 1},
-    {"NivelNebDifusas", ENTERO(NivelNebDifusas), 0, NIVEL_MAXIMO, true, 1},
-    {"NivelCumAbiertos", ENTERO(NivelCumAbiertos), 0, NIVEL_MAXIMO, true, 1},
-    {"NivelCumGlobulares", ENTERO(NivelCumGlobulares), 0, NIVEL_MAXIMO, true, 1},
+    {"NivelEstrellas", ENTERO(NivelEstrellas), LIMITES(32), true, 1},
+    {"NivelConstelaciones", ENTERO(NivelConstelaciones), LIMITES(33), true, 1},
+    {"NivelGalaxias", ENTERO(NivelGalaxias), LIMITES(19), true, 3},
+    {"NivelNebPlanetarias", ENTERO(NivelNebPlanetarias), LIMITES(20), true, 1},
+    {"NivelNebDifusas", ENTERO(NivelNebDifusas), LIMITES(21), true, 1},
+    {"NivelCumAbiertos", ENTERO(NivelCumAbiertos), LIMITES(22), true, 1},
+    {"NivelCumGlobulares", ENTERO(NivelCumGlobulares), LIMITES(23), true, 1},
     // Identification choices: one value per option button of their frame.
     {"IdEstrellas", ENTERO(IdEstrellas), 0, 2, true, 1},
     {"IdConstelaciones", ENTERO(IdConstelaciones), 0, 3, false, 0},
@@ -68,22 +74,22 @@ const ItemConfiguracion LINEA3[] = {
 };
 
 const ItemConfiguracion LINEA4[] = {
-    {"AnchoMm", ENTERO(AnchoMm), -INF, INF, false, 0},
-    {"AltoMm", ENTERO(AltoMm), -INF, INF, false, 0},
+    {"AnchoMm", ENTERO(AnchoMm), LIMITES(34), false, 0},
+    {"AltoMm", ENTERO(AltoMm), LIMITES(35), false, 0},
     {"PanelControl", BOOLEANO(PanelControl), -INF, INF, false, 0},
     {"PanelCursor", BOOLEANO(PanelCursor), -INF, INF, false, 0},
     {"PanelLocalizacion", BOOLEANO(PanelLocalizacion), -INF, INF, false, 0},
     {"PanelObjetos", BOOLEANO(PanelObjetos), -INF, INF, false, 0},
-    {"FormatoHora", ENTERO(FormatoHora), -INF, INF, true, 1},
-    {"Orientacion", ENTERO(Orientacion), -INF, INF, true, 1},
+    {"FormatoHora", ENTERO(FormatoHora), LIMITES(1), true, 1},
+    {"Orientacion", ENTERO(Orientacion), LIMITES(16), true, 1},
     {"Precesion", BOOLEANO(Precesion), -INF, INF, false, 0},
     {"Sonido", BOOLEANO(Sonido), -INF, INF, false, 0},
     {"Telescopio", BOOLEANO(Telescopio), -INF, INF, false, 0},
-    {"CampoTelescopio", DOUBLE(CampoTelescopio), -INF, INF, true, 0.0523596},
-    {"Velocidad", ENTERO(Velocidad), -INF, INF, true, 50},
+    {"CampoTelescopio", DOUBLE(CampoTelescopio), CAMPO_MINIMO, CAMPO_MAXIMO, true, 0.0523596},
+    {"Velocidad", ENTERO(Velocidad), LIMITES(15), true, 50},
     {"ZonaHoraria", SINGLE(ZonaHoraria), -24, 24, true, 0.0},
     {"HorarioVerano", BOOLEANO(HorarioVerano), -INF, INF, false, 0},
-    {"PasoCantidad", ENTERO(PasoCantidad), -INF, INF, true, 1},
+    {"PasoCantidad", ENTERO(PasoCantidad), LIMITES(36), true, 1},
     {"TiempoReal", BOOLEANO(TiempoReal), -INF, INF, true, 0},
     {"ImagenEnPantalla", BOOLEANO(ImagenEnPantalla), -INF, INF, true, 0},
 };

@@ -1,5 +1,6 @@
 #include "platform/Pausa.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <thread>
@@ -35,6 +36,9 @@ RelojPausa& RelojSistema() {
 void FijaRelojPausa(RelojPausa* reloj) { relojActual = reloj; }
 
 double FactorVelocidad(int16_t velocidad) {
+    // The slider runs from 0 to 100; beyond it, the factor would grow past
+    // any pause (−400 waits minutes, −32768 overflows every duration).
+    velocidad = std::clamp<int16_t>(velocidad, 0, 100);
     double f = CuatroDecimales(std::pow(1.5, (100.0 - velocidad) / 50.0));
     if (f > 1) f = CuatroDecimales(f * f);
     return f;

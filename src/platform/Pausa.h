@@ -19,7 +19,8 @@ RelojPausa& RelojSistema();
 void FijaRelojPausa(RelojPausa* reloj);
 
 // 1.5 ^ ((100 - s) / 50) to four decimals, squared (again to four
-// decimals) when above 1: the slow settings are slowed further.
+// decimals) when above 1: the slow settings are slowed further. A speed
+// outside 0..100 counts as the nearer end.
 double FactorVelocidad(int16_t velocidad);
 
 // Waits until the clock has passed `milisegundos` x the speed factor.

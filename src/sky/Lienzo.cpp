@@ -7,6 +7,14 @@
 
 namespace vedrano {
 
+namespace {
+
+// The widest dot kept as a sprite: the brightest star at the closest zoom
+// is about a dozen pixels.
+constexpr int ANCHO_MAXIMO_SPRITE = 64;
+
+}  // namespace
+
 QColor ColorVB(unsigned long bgr) {
     return QColor(static_cast<int>(bgr & 0xFF), static_cast<int>((bgr >> 8) & 0xFF),
                   static_cast<int>((bgr >> 16) & 0xFF));
@@ -127,7 +135,10 @@ void Lienzo::Punto(double x, double y) {
     actualY_ = y;
     if (estilo_ == 5) return;
     QPointF c = APixel(x, y);
-    if (vectorial_) {  // a disc of its own on a vector device
+    // A disc of its own on a vector device, and for a dot wider than any
+    // star: a damaged magnitude must not leave a pre-rendered dot of its
+    // width (up to 32767 pixels a side) behind.
+    if (vectorial_ || anchoTrazo_ > ANCHO_MAXIMO_SPRITE) {
         pintor_->setPen(Qt::NoPen);
         pintor_->setBrush(Tono(tinta_));
         const double r = anchoTrazo_ <= 1 ? 0.5 : anchoTrazo_ / 2.0;

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <functional>
+#include <limits>
 #include <random>
 
 #include "app/ErrorEjecucion.h"
@@ -104,4 +105,14 @@ TEST(CodigoItems, EscribirLeerEscribirEsEstable) {
         EXPECT_LE(std::fabs(g - f), std::fabs(f) * 1e-6f) << ts;
         EXPECT_EQ(TextoSingle(g), ts);
     }
+}
+
+// Every finite number written is read back, the largest of each type too
+// (fifteen digits would round the largest Double up past it).
+TEST(CodigoItems, LosExtremosDeCadaTipoSeLeenDeVuelta) {
+    for (double x : {std::numeric_limits<double>::max(), -std::numeric_limits<double>::max(), 1.79769313486231e308})
+        EXPECT_EQ(LeeDouble(Item(TextoDouble(x))), x) << TextoDouble(x);
+    EXPECT_EQ(TextoDouble(1.7976931348623157e308), "1.7976931348623157E+308");
+    for (float f : {std::numeric_limits<float>::max(), -std::numeric_limits<float>::max()})
+        EXPECT_LE(std::fabs(LeeSingle(Item(TextoSingle(f))) - f), std::fabs(f) * 1e-6f) << TextoSingle(f);
 }

@@ -82,14 +82,15 @@ Estado EstadoPoblado() {
     e.IndiceLugar = 177;
     e.Longitud = 6.1;
     e.Latitud = -1.2;
-    e.Direccion = 0.1;
-    e.Elevacion = -0.3;
+    e.Direccion = 6.2831853072;  // the ends of the ranges read back
+    e.Elevacion = 1.5707963268;
     e.Zoom = 14.75f;
     e.TextoLugar = A1252("Tromsø, \"el norte\"");
-    int16_t n = 0;
-    for (int16_t* p : {&e.NivelEstrellas, &e.NivelConstelaciones, &e.NivelGalaxias, &e.NivelNebPlanetarias,
-                       &e.NivelNebDifusas, &e.NivelCumAbiertos, &e.NivelCumGlobulares})
-        *p = static_cast<int16_t>(n++ % 8);
+    e.NivelEstrellas = 0;
+    e.NivelConstelaciones = 4;
+    e.NivelGalaxias = 1;
+    for (int16_t* p : {&e.NivelNebPlanetarias, &e.NivelNebDifusas, &e.NivelCumAbiertos, &e.NivelCumGlobulares})
+        *p = 2;
     e.IdEstrellas = 2;
     e.IdConstelaciones = 3;
     e.IdMessier = 2;
@@ -102,16 +103,16 @@ Estado EstadoPoblado() {
     e.Capas.Messi = 1;
     e.IdentificarObjetos = false;
     e.AnchoMm = 210;
-    e.AltoMm = -5;
+    e.AltoMm = 50;
     e.PanelCursor = true;
     e.FormatoHora = 2;
-    e.Orientacion = 0;
+    e.Orientacion = 2;
     e.Precesion = true;
-    e.CampoTelescopio = 1e-7;
+    e.CampoTelescopio = 30 / 57.29577951289617;
     e.Velocidad = 99;
     e.ZonaHoraria = -9.5f;
     e.HorarioVerano = true;
-    e.PasoCantidad = -3;
+    e.PasoCantidad = 999;
     e.TiempoReal = true;
     e.ImagenEnPantalla = true;
     return e;
@@ -295,6 +296,24 @@ TEST_F(Configuracion, ArchivosDanadosSeInformanYConservanLoLeido) {
         {"dato de menos", junta({lineas[0], lineas[1], lineas[2], lineas[3].substr(0, lineas[3].rfind(','))}), 62, 4, 18},
         {"linea cortada", lineas[0] + "\r\n\"Madr\"", 62, 2, 1},
         {"comillas abiertas", junta({lineas[0], "\"abc", lineas[2], lineas[3]}), 13, 2, 0},
+        // The ranges of the controls hold on loading: beyond them a direction
+        // overflowed its degrees at start-up, a speed froze the window.
+        {"direccion 600", cambia(1, 5, "600"), 380, 1, 5},
+        {"direccion negativa", cambia(1, 5, "-600"), 380, 1, 5},
+        {"direccion 1E37", cambia(1, 5, "1E37"), 380, 1, 5},
+        {"direccion maxima", cambia(1, 5, "1.7976931348623157E+308"), 380, 1, 5},
+        {"elevacion bajo el horizonte", cambia(1, 6, "-0.1"), 380, 1, 6},
+        {"zoom cero", cambia(1, 7, "0"), 380, 1, 7},
+        {"nivel de galaxias", cambia(3, 3, "5"), 380, 3, 3},
+        {"nivel de nebulosas", cambia(3, 4, "0"), 380, 3, 4},
+        {"ancho", cambia(4, 1, "0"), 380, 4, 1},
+        {"alto", cambia(4, 2, "30000"), 380, 4, 2},
+        {"formato de hora", cambia(4, 7, "3"), 380, 4, 7},
+        {"orientacion", cambia(4, 8, "0"), 380, 4, 8},
+        {"campo del telescopio", cambia(4, 12, "-1"), 380, 4, 12},
+        {"velocidad -400", cambia(4, 13, "-400"), 380, 4, 13},
+        {"velocidad -32768", cambia(4, 13, "-32768"), 380, 4, 13},
+        {"cantidad de pasos", cambia(4, 16, "0"), 380, 4, 16},
     };
     for (const Caso& c : casos) {
         Escribe(carpeta / "d.ls1", c.contenido);
@@ -308,6 +327,10 @@ TEST_F(Configuracion, ArchivosDanadosSeInformanYConservanLoLeido) {
         EXPECT_EQ(r.dato, c.dato) << c.nombre;
         EXPECT_EQ(ui.vistos.size(), c.error == 6 ? 0u : 1u) << c.nombre;
         EXPECT_NE(r.texto.find(std::to_string(c.error)), std::string::npos) << c.nombre;
+        if (c.dato >= 1 && c.dato <= ITEMS_POR_LINEA[static_cast<std::size_t>(c.linea - 1)]) {
+            const std::string item = ItemsLinea(c.linea)[static_cast<std::size_t>(c.dato - 1)].nombre;
+            EXPECT_NE(r.texto.find("(" + item + ")"), std::string::npos) << c.nombre << ": " << r.texto;
+        }
         // Items before the faulty one (and never those of a line with the
         // wrong count) come from the file; all others are untouched.
         std::vector<std::string> obtenidos = Items(leido), esperados = Items(EstadoPoblado()),
