@@ -30,6 +30,7 @@ struct CamposFecha {
 struct DerivadosRotacion {
     double zeta = 0, z = 0, theta = 0;  // angles of the cached precession matrix
     bool precesionLista = false;
+    bool alta = false;  // the cached matrix is the precise model's, for date `zeta`
     double p[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
     double sidereo = 0, latitud = 0;  // angles of the cached horizon rotation
     bool horizonteListo = false;
@@ -39,7 +40,7 @@ struct DerivadosRotacion {
     double cc = 1, sc = 0, cd = 1, sd = 0;
     // The whole chain, catalogue direction to view frame, as one matrix.
     bool completaLista = false, conPrecesion = false;
-    double claves[7] = {};
+    double claves[8] = {};
     double m[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
 };
 

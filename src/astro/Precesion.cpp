@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "app/Constantes.h"
+#include "astro/PrecisionAlta.h"
 
 namespace vedrano {
 
@@ -26,6 +27,20 @@ namespace {
 //   C = sin th cos d0 cos(a0 + zeta) + cos th sin d0
 //   a = atan2(A, B) + z,  d = asin C
 // with cos d cos a = z, cos d sin a = -x and sin d = y.
+// Carries a matrix of ERFA's axes (x to the equinox, y to 6h, z to the
+// pole) into the program's frame, (x, y, z) = (-Y, Z, X), as r.p.
+void AMarcoPrograma(const double m[3][3], DerivadosRotacion& r) {
+    const int fila[3] = {1, 2, 0};
+    const double signo[3] = {-1, 1, 1};
+    // Column j of the usual frame comes from component (x, y, z)[col[j]] * csig[j].
+    const int col[3] = {2, 0, 1};
+    const double csig[3] = {1, -1, 1};
+    for (int i = 0; i < 3; ++i)
+        for (int k = 0; k < 3; ++k) r.p[i][k] = 0;
+    for (int i = 0; i < 3; ++i)
+        for (int j = 0; j < 3; ++j) r.p[i][col[j]] += signo[i] * m[fila[i]][j] * csig[j];
+}
+
 void ConstruyeMatriz(DerivadosRotacion& r, double zeta, double z, double theta) {
     double cz = std::cos(zeta), sz = std::sin(zeta);
     double cZ = std::cos(z), sZ = std::sin(z);
@@ -45,16 +60,8 @@ void ConstruyeMatriz(DerivadosRotacion& r, double zeta, double z, double theta) 
     double t1[3][3], m[3][3];
     producto(rth, rzeta, t1);
     producto(rz, t1, m);
-    // The program's frame: (x, y, z) = (-Y, Z, X).
-    const int fila[3] = {1, 2, 0};
-    const double signo[3] = {-1, 1, 1};
-    // Column j of the usual frame comes from component (x, y, z)[col[j]] * csig[j].
-    const int col[3] = {2, 0, 1};
-    const double csig[3] = {1, -1, 1};
-    for (int i = 0; i < 3; ++i)
-        for (int k = 0; k < 3; ++k) r.p[i][k] = 0;
-    for (int i = 0; i < 3; ++i)
-        for (int j = 0; j < 3; ++j) r.p[i][col[j]] += signo[i] * m[fila[i]][j] * csig[j];
+    AMarcoPrograma(m, r);
+    r.alta = false;
     r.zeta = zeta;
     r.z = z;
     r.theta = theta;
@@ -65,12 +72,24 @@ void ConstruyeMatriz(DerivadosRotacion& r, double zeta, double z, double theta) 
 
 void PreparaPrecesion(const Estado& e) {
     DerivadosRotacion& r = e.Derivados;
-    if (!r.precesionLista || r.zeta != e.PrecZeta || r.z != e.PrecZ || r.theta != e.PrecTheta)
+    if (e.Pref.PrecisionAlta) {
+        if (r.precesionLista && r.alta && r.zeta == e.FechaJuliana) return;
+        double m[3][3];
+        MatrizFecha(e.FechaJuliana, m);
+        AMarcoPrograma(m, r);
+        r.alta = true;
+        r.zeta = e.FechaJuliana;
+        r.precesionLista = true;
+        return;
+    }
+    if (!r.precesionLista || r.alta || r.zeta != e.PrecZeta || r.z != e.PrecZ || r.theta != e.PrecTheta)
         ConstruyeMatriz(r, e.PrecZeta, e.PrecZ, e.PrecTheta);
 }
 
+bool PrecesaCatalogo(const Estado& e) { return e.Precesion || e.Pref.PrecisionAlta; }
+
 void AplicaPrecesion(const Estado& e, Vector3f& v) {
-    if (!e.Precesion) return;
+    if (!PrecesaCatalogo(e)) return;
     PreparaPrecesion(e);
     const DerivadosRotacion& r = e.Derivados;
     double x = v.x, y = v.y, z = v.z;

@@ -5,6 +5,7 @@
 #include "app/TablasFijas.h"
 #include "astro/Calendario.h"
 #include "astro/Precesion.h"
+#include "astro/PrecisionAlta.h"
 #include "astro/Sidereo.h"
 #include "platform/Reloj.h"
 
@@ -19,6 +20,9 @@ double Adelanto(const Estado& e) { return e.HorarioVerano ? 1.0 / 24.0 : 0.0; }
 void ActualizaTiempo(Estado& e, const TablaPlanetas& planetas) {
     MuestraFechas(e);
     HallaTiempoSidereo(e, planetas);
+    // The precise model turns the sky by the apparent sidereal time; the
+    // classic Sun of the table stays as it was computed.
+    if (e.Pref.PrecisionAlta) e.TiempoSidereo = TiempoSidereoAparente(e.FechaJuliana, e.Longitud);
     if (e.Precesion) HallaPrecesion(e);
 }
 

@@ -24,14 +24,16 @@ struct DescripcionOrden {
 };
 
 const Opcion OPCION_DATOS{"datos", "DIR", "carpeta de los ficheros de catálogo (por omisión, la del programa)"};
+const Opcion OPCION_PRECISION{"precision", "alta", "el modelo preciso del Sol, la Luna y los planetas (ERFA)"};
 
 const std::vector<DescripcionOrden>& Ordenes() {
     static const std::vector<DescripcionOrden> ordenes = {
-        {Orden::Calcula, "calcula", "[--datos DIR]", "calculadora por lotes",
+        {Orden::Calcula, "calcula", "[--datos DIR] [--precision alta]", "calculadora por lotes",
          "Lee operaciones de la entrada estándar, una por línea, y escribe una línea de\n"
          "resultado por operación. Las líneas en blanco y las que empiezan por # no\n"
-         "producen salida. Un error de ejecución se escribe «ERROR n».\n",
-         {OPCION_DATOS}},
+         "producen salida. Un error de ejecución se escribe «ERROR n». Con --precision alta\n"
+         "se añade la operación «LugarAparente cuerpo JD» (lugar aparente geocéntrico).\n",
+         {OPCION_DATOS, OPCION_PRECISION}},
         {Orden::Configuracion, "configuracion", "--lee A.ls1 [--escribe B.ls1] | --muestras CARPETA [--datos DIR]",
          "muestra, reescribe o genera configuraciones \".ls1\"",
          "Muestra una configuración dato a dato y, si se pide, la vuelve a escribir; o\n"
@@ -45,7 +47,8 @@ const std::vector<DescripcionOrden>& Ordenes() {
          "«Sistema Solar»...) o de «Lugares». Una categoría de varias palabras puede ir\n"
          "entre comillas o no; mayúsculas y acentos dan igual.\n",
          {OPCION_DATOS}},
-        {Orden::Dibuja, "dibuja", "[--config A.ls1] [--datos DIR] [--ancho W] [--alto H] --salida FICHERO",
+        {Orden::Dibuja, "dibuja",
+         "[--config A.ls1] [--datos DIR] [--ancho W] [--alto H] [--precision alta] --salida FICHERO",
          "dibuja el cielo de una configuración en una imagen",
          "Dibuja el cielo de una configuración (por omisión Archivo/Inicial.ls1) tal como\n"
          "lo muestra la ventana. La salida es una imagen (.png, .jpg...), una página\n"
@@ -54,7 +57,8 @@ const std::vector<DescripcionOrden>& Ordenes() {
           OPCION_DATOS,
           {"ancho", "W", "ancho de la imagen en píxeles, de 16 a 16384 (1024)"},
           {"alto", "H", "alto de la imagen en píxeles, de 16 a 16384 (768)"},
-          {"salida", "FICHERO", "fichero que se escribe"}}},
+          {"salida", "FICHERO", "fichero que se escribe"},
+          OPCION_PRECISION}},
     };
     return ordenes;
 }
@@ -155,6 +159,13 @@ AnalisisCli AnalizaOrden(const DescripcionOrden& d, const QStringList& argumento
         return v.isEmpty() ? QString() : v.last();
     };
     o.datos = valor("datos");
+    const bool conPrecision = d.orden == Orden::Calcula || d.orden == Orden::Dibuja;
+    if (conPrecision && p.isSet(QStringLiteral("precision"))) {
+        const QString modo = valor("precision");
+        if (modo != QLatin1String("alta"))
+            return Mal(d.nombre, "valor no válido para --precision: «" + Utf8(modo) + "» (solo «alta»)");
+        o.precisionAlta = true;
+    }
     const QStringList sueltos = p.positionalArguments();
     if (d.orden == Orden::Lista) {
         o.categoria = sueltos.join(u' ');

@@ -18,6 +18,7 @@ struct OpcionesCli {
     int ancho = 1024, alto = 768;
     QString lee, escribe, muestras;  // configuracion
     QString categoria;  // lista: the words of the category, joined by blanks
+    bool precisionAlta = false;  // calcula, dibuja: --precision alta
 };
 
 // The outcome of reading the command line. When `terminar` is set the

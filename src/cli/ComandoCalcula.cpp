@@ -14,6 +14,7 @@
 
 #include "app/ErrorEjecucion.h"
 #include "app/Texto1252.h"
+#include "astro/PrecisionAlta.h"
 #include "astro/Calendario.h"
 #include "astro/Coordenadas.h"
 #include "astro/Planetas.h"
@@ -163,7 +164,10 @@ private:
 
 class Calculadora {
 public:
-    explicit Calculadora(std::string dirDatos) : dirDatos_(std::move(dirDatos)) { Registra(); }
+    Calculadora(std::string dirDatos, bool precisionAlta) : dirDatos_(std::move(dirDatos)) {
+        Registra();
+        if (precisionAlta) RegistraPrecisionAlta();
+    }
 
     std::string Ejecuta(std::string_view linea) {
         try {
@@ -339,6 +343,18 @@ private:
         }};
     }
 
+    // The precise model's own operation: the geocentric apparent place of
+    // body 1..11 (not the Earth) at a Julian day in UT.
+    void RegistraPrecisionAlta() {
+        operaciones_["LugarAparente"] = {2, [](Argumentos& a, Estado&, Resultado& r) {
+            int16_t cuerpo = a.I();
+            double jd = a.D();
+            if (cuerpo < 1 || cuerpo > 11 || cuerpo == 3) throw ErrorEjecucion(ErrSubindice);
+            LugarPreciso l = LugarAparente(cuerpo, jd);
+            r.D(l.ar).D(l.dec);
+        }};
+    }
+
     static void LeeVista(Argumentos& a, Estado& e) {
         e.TiempoSidereo = a.D();
         e.Latitud = a.D();
@@ -356,8 +372,8 @@ private:
 
 }  // namespace
 
-void Calcula(std::istream& entrada, std::ostream& salida, const std::string& dirDatos) {
-    Calculadora calc(dirDatos);
+void Calcula(std::istream& entrada, std::ostream& salida, const std::string& dirDatos, bool precisionAlta) {
+    Calculadora calc(dirDatos, precisionAlta);
     std::string linea;
     while (std::getline(entrada, linea)) {
         std::size_t p = linea.find_first_not_of(" \t\r");
@@ -373,7 +389,7 @@ int ComandoCalcula(const OpcionesCli& o) {
     // as a whole has failed.
     std::optional<std::string> dirDatos = CarpetaDatos(o.datos, "calcula");
     const std::string carpeta = dirDatos ? *dirDatos : QFile::encodeName(o.datos).toStdString() + "/";
-    Calcula(std::cin, std::cout, carpeta);
+    Calcula(std::cin, std::cout, carpeta, o.precisionAlta);
     if (!std::cout) {
         std::cerr << "vedrano-cli calcula: no se puede escribir el resultado en la salida estándar\n";
         return 1;

@@ -83,6 +83,7 @@ int ComandoDibuja(int argc, char** argv, const OpcionesCli& o) {
     if (consola.hubo) return 1;
 
     Estado e;
+    e.Pref.PrecisionAlta = o.precisionAlta;
     namespace fs = std::filesystem;
     fs::path archivo = o.config.isEmpty() ? fs::path(*datos).parent_path().parent_path() / "Archivo" / "Inicial.ls1"
                                           : fs::path(QFile::encodeName(o.config).toStdString());

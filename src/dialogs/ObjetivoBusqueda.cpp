@@ -6,6 +6,7 @@
 #include "app/ErrorEjecucion.h"
 #include "astro/Planetas.h"
 #include "astro/Sidereo.h"
+#include "sky/proyeccion/SistemaSolar.h"
 
 namespace vedrano {
 
@@ -31,14 +32,8 @@ void CuerpoSolar(Estado& e, const Catalogos& c, int linea) {
     // would move the Sun, and from the Earth there is nothing to point at.
     if (cuerpo == 3) return;
     HallaSol(e, c.TablaPlanetas);
-    if (cuerpo <= 9) {
-        HallaPlaneta(e, c.TablaPlanetas, cuerpo);
-    } else if (cuerpo == 10) {
-        HallaSolAparente(e);
-    } else {
-        HallaLuna(e);
-        e.CorreccionLuna = true;  // the Moon moves on while the time is stepped
-    }
+    HallaCuerpo(e, c.TablaPlanetas, cuerpo);
+    if (cuerpo == 11) e.CorreccionLuna = true;  // the Moon moves on while the time is stepped
     const PosicionCuerpo& p = e.Planetas[static_cast<std::size_t>(cuerpo)];
     e.ObjetivoAR = p.AscRecta;
     e.ObjetivoDEC = p.Declinacion;

@@ -9,6 +9,7 @@
 #include "platform/NumerosLocales.h"
 #include "sky/Plotters.h"
 #include "sky/proyeccion/Proyeccion.h"
+#include "sky/proyeccion/SistemaSolar.h"
 
 namespace vedrano {
 
@@ -20,13 +21,6 @@ bool Encendido(int16_t interruptor) { return interruptor != 0; }
 // never computed or drawn as a planet seen from the Earth, which would
 // overwrite the Sun's base values.
 constexpr int16_t TIERRA = 3;
-
-void CalculaSistemaSolar(Estado& e, const Catalogos& c) {
-    for (int16_t i = 1; i <= 9; ++i)
-        if (i != TIERRA) HallaPlaneta(e, c.TablaPlanetas, i);
-    HallaSolAparente(e);
-    HallaLuna(e);
-}
 
 }  // namespace
 
@@ -41,6 +35,8 @@ void ActualizaPanel(Estado& e) {
     p.FechaLocal = "F. L. = " + e.Fechas[1].Dia + " / " + e.Fechas[1].Mes + " / " + e.Fechas[1].Ano;
     p.HoraLocal = " " + e.Fechas[1].Hora;
     p.DiaJuliano = "D. J. = " + plataforma::NumeroLocal(e.TextoDiaJuliano);
+    // The precise model says its name beside the date it was computed for.
+    if (e.Pref.PrecisionAlta) p.DiaJuliano += "    Precisi\xF3n alta";
 }
 
 void AjustaEscalaLienzo(Estado& e, Lienzo& l) {
@@ -77,16 +73,16 @@ void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l) {
     if (Encendido(s.ViaLa)) DibujaViaLactea(x);
     for (int16_t i = 1; i <= 9; ++i) {
         if (i == TIERRA || !Encendido(s.Plane[static_cast<std::size_t>(i - 1)])) continue;
-        HallaPlaneta(e, c.TablaPlanetas, i);
+        HallaCuerpo(e, c.TablaPlanetas, i);
         DibujaCuerpo(x, i);
     }
     if (Encendido(s.Sol)) {
-        HallaSolAparente(e);
+        HallaCuerpo(e, c.TablaPlanetas, 10);
         DibujaCuerpo(x, 10);
     }
     if (Encendido(s.Luna)) {
-        HallaSolAparente(e);  // the phase needs the Sun even when it is not drawn
-        HallaLuna(e);
+        HallaCuerpo(e, c.TablaPlanetas, 10);  // the phase needs the Sun even when it is not drawn
+        HallaCuerpo(e, c.TablaPlanetas, 11);
         DibujaCuerpo(x, 11);
     }
     if (e.Telescopio) {
@@ -103,7 +99,7 @@ void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l) {
 
 void ActualizaCielo(Estado& e, const Catalogos& c, Lienzo& l) {
     ActualizaTiempo(e, c.TablaPlanetas);
-    if (e.ActualizarSistemaSolar) CalculaSistemaSolar(e, c);
+    if (e.ActualizarSistemaSolar) HallaSistemaSolar(e, c.TablaPlanetas);
     AjustaEscalaLienzo(e, l);
     GiraDireccion(e);
     DibujaCielo(e, c, l);

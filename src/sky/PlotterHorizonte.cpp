@@ -7,6 +7,7 @@
 #include "app/Texto1252.h"
 #include "astro/Planetas.h"
 #include "sky/Plotters.h"
+#include "sky/proyeccion/SistemaSolar.h"
 
 namespace vedrano {
 
@@ -66,7 +67,7 @@ void DibujaLuzDiurna(Contexto& x) {
     // Looking at the zenith, the Sun's depth is the sine of its altitude.
     double elevacion = e.Elevacion;
     e.Elevacion = MEDIO_PI;
-    HallaSolAparente(e);
+    HallaCuerpo(e, x.c.TablaPlanetas, 10);
     PosicionCuerpo& sol = e.Planetas[10];
     // The Sun's place is of the date: no precession step.
     PuntoProyectado p = ProyectaPuntoFecha(e, Vector3f{sol.x, sol.y, sol.z});

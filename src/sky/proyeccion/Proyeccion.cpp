@@ -5,6 +5,7 @@
 #include "app/Aritmetica.h"
 #include "app/Constantes.h"
 #include "astro/Precesion.h"
+#include "astro/PrecisionAlta.h"
 
 namespace vedrano {
 
@@ -40,6 +41,21 @@ PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h) {
     return {static_cast<float>(X3), static_cast<float>(Y4), static_cast<float>(Z4)};
 }
 
+namespace {
+
+// The precise model lifts every direction by the atmosphere's refraction
+// (x west, y north, z zenith).
+void Refracta(Vector3f& h) {
+    double horizontal = std::hypot(double{h.x}, double{h.y});
+    if (horizontal < 1e-9) return;
+    double altura = std::atan2(double{h.z}, horizontal);
+    double nueva = altura + Refraccion(altura);
+    double k = std::cos(nueva) / horizontal;
+    h = {static_cast<float>(h.x * k), static_cast<float>(h.y * k), static_cast<float>(std::sin(nueva))};
+}
+
+}  // namespace
+
 PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v) {
     AplicaPrecesion(e, v);
     return ProyectaPuntoFecha(e, v);
@@ -50,7 +66,9 @@ PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v) {
 // longitudes of date. Precessing them once more drew the Sun 0.7 degrees off
 // near 2000 and tens of degrees off in antiquity, so they skip that step.
 PuntoProyectado ProyectaPuntoFecha(const Estado& e, const Vector3f& v) {
-    return ProyectaHorizontal(e, EcuatorialAHorizontal(e, v));
+    Vector3f h = EcuatorialAHorizontal(e, v);
+    if (e.Pref.PrecisionAlta) Refracta(h);
+    return ProyectaHorizontal(e, h);
 }
 
 namespace {
@@ -60,17 +78,19 @@ namespace {
 // products each.
 const DerivadosRotacion& Cadena(const Estado& e) {
     DerivadosRotacion& r = e.Derivados;
-    double claves[7] = {e.PrecZeta, e.PrecZ, e.PrecTheta, e.TiempoSidereo, e.Latitud, e.DireccionGirada, e.Elevacion};
-    bool igual = r.completaLista && r.conPrecesion == e.Precesion;
-    for (int i = 0; i < 7 && igual; ++i) igual = r.claves[i] == claves[i];
+    const bool precesa = PrecesaCatalogo(e);
+    double claves[8] = {e.PrecZeta, e.PrecZ, e.PrecTheta, e.TiempoSidereo, e.Latitud, e.DireccionGirada, e.Elevacion,
+                        e.Pref.PrecisionAlta ? e.FechaJuliana : -1.0};
+    bool igual = r.completaLista && r.conPrecesion == precesa;
+    for (int i = 0; i < 8 && igual; ++i) igual = r.claves[i] == claves[i];
     if (igual) return r;
-    if (e.Precesion) PreparaPrecesion(e);
+    if (precesa) PreparaPrecesion(e);
     PreparaHorizonte(e);
     Vista(e);
     for (int j = 0; j < 3; ++j) {
         double v[3] = {0, 0, 0};
         v[j] = 1;
-        if (e.Precesion) {
+        if (precesa) {
             double w[3];
             for (int i = 0; i < 3; ++i) w[i] = r.p[i][0] * v[0] + r.p[i][1] * v[1] + r.p[i][2] * v[2];
             v[0] = w[0], v[1] = w[1], v[2] = w[2];
@@ -85,8 +105,8 @@ const DerivadosRotacion& Cadena(const Estado& e) {
         r.m[1][j] = Y3 * r.cd + Z2 * r.sd;
         r.m[2][j] = Z2 * r.cd - Y3 * r.sd;
     }
-    for (int i = 0; i < 7; ++i) r.claves[i] = claves[i];
-    r.conPrecesion = e.Precesion;
+    for (int i = 0; i < 8; ++i) r.claves[i] = claves[i];
+    r.conPrecesion = precesa;
     r.completaLista = true;
     return r;
 }
@@ -94,6 +114,8 @@ const DerivadosRotacion& Cadena(const Estado& e) {
 }  // namespace
 
 PuntoProyectado ProyectaPunto(const Estado& e, Vector3f v) {
+    // Refraction is no rotation: the precise model goes step by step.
+    if (e.Pref.PrecisionAlta) return ProyectaPuntoRef(e, v);
     const DerivadosRotacion& r = Cadena(e);
     return {static_cast<float>(r.m[0][0] * v.x + r.m[0][1] * v.y + r.m[0][2] * v.z),
             static_cast<float>(r.m[1][0] * v.x + r.m[1][1] * v.y + r.m[1][2] * v.z),

@@ -3,6 +3,7 @@
 #include "app/Constantes.h"
 #include "app/Texto1252.h"
 #include "astro/Planetas.h"
+#include "sky/proyeccion/SistemaSolar.h"
 #include "astro/Tiempo.h"
 #include "sky/proyeccion/Proyeccion.h"
 #include "ui/cielo/Cielo.h"
@@ -129,10 +130,7 @@ void Cielo::SubBajHaPulsado(int i, int x) {
 }
 
 void Cielo::RecalculaCuerpos() {
-    for (int16_t k = 1; k <= 9; ++k)
-        if (k != 3) HallaPlaneta(e_, c_.TablaPlanetas, k);
-    HallaSolAparente(e_);
-    HallaLuna(e_);
+    HallaSistemaSolar(e_, c_.TablaPlanetas);
 }
 
 void Cielo::TicTiempoReal() {
