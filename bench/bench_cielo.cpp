@@ -59,18 +59,20 @@ Estado TodoEncendido() {
     return e;
 }
 
+// Argument 0: the classic model; 1: the precise one.
 void BM_PasadaCompleta(benchmark::State& st) {
     Aplicacion();
     const Catalogos& c = Datos();
     Lienzo l(1024, 768);
     Estado e = TodoEncendido();
+    e.Pref.PrecisionAlta = st.range(0) != 0;
     ActualizaCielo(e, c, l);
     for (auto _ : st) {
         DibujaCielo(e, c, l);
         benchmark::DoNotOptimize(l.Imagen().constBits());
     }
 }
-BENCHMARK(BM_PasadaCompleta)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_PasadaCompleta)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 void BM_ProyeccionEstrellas(benchmark::State& st) {
     const Catalogos& c = Datos();

@@ -99,8 +99,11 @@ int ComandoDibuja(int argc, char** argv, const OpcionesCli& o) {
     const std::string salida = QFile::encodeName(o.salida).toStdString();
     // A name ending in ".pdf" gets the printed page, title block included.
     if (o.salida.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
-        if (!EscribePdf(o.salida, e, catalogos)) {
-            std::cerr << "vedrano-cli dibuja: no se puede escribir el PDF en " << salida << "\n";
+        int error = 0;
+        if (!EscribePdf(o.salida, e, catalogos, &error)) {
+            std::cerr << "vedrano-cli dibuja: no se puede escribir el PDF en " << salida;
+            if (error != 0) std::cerr << ": " << DesdeA1252(TextoErrorArchivo("DIB", error));
+            std::cerr << "\n";
             return 1;
         }
         return 0;

@@ -40,6 +40,7 @@ int ErrorDeSistema(int codigo) {
         case EPERM:
         case EROFS: return ErrPermisoDenegado;
         case ENOSPC:
+        case EFBIG:  // past the largest file allowed: no room either
 #ifdef EDQUOT
         case EDQUOT:
 #endif

@@ -10,6 +10,7 @@
 #endif
 
 #include "config/ErroresArchivo.h"
+#include "platform/Proceso.h"
 
 namespace vedrano {
 
@@ -35,7 +36,37 @@ int EscribeEnDispositivo(const std::filesystem::path& destino, std::string_view 
     return codigo == 0 ? 0 : ErrorDeSistema(codigo);
 }
 
+// ".NAME.PID-N.tmp": the writer's process number in the name tells a
+// leftover of a killed writer from the file of one still at work.
+std::string PrefijoTemporal(const std::string& nombre) { return "." + nombre + "."; }
+
+void LimpiaEn(const std::filesystem::path& carpeta, const std::string& prefijo) {
+    namespace fs = std::filesystem;
+    std::error_code ec;
+    for (fs::directory_iterator it(carpeta, ec), fin; !ec && it != fin; it.increment(ec)) {
+        const std::string n = it->path().filename().string();
+        if (n.size() < prefijo.size() + 4 || n.compare(0, prefijo.size(), prefijo) != 0 ||
+            n.compare(n.size() - 4, 4, ".tmp") != 0)
+            continue;
+        // The process number is the digits after the last dot but one.
+        const std::size_t punto = n.rfind('.', n.size() - 5);
+        const std::size_t guion = n.find('-', punto);
+        if (punto == std::string::npos || guion == std::string::npos || guion == punto + 1) continue;
+        long id = 0;
+        bool numero = true;
+        for (std::size_t i = punto + 1; i < guion && numero; ++i) {
+            numero = n[i] >= '0' && n[i] <= '9' && id < 100000000;
+            id = id * 10 + (n[i] - '0');
+        }
+        if (!numero || plataforma::ProcesoVivo(id)) continue;
+        std::error_code borrado;
+        fs::remove(it->path(), borrado);
+    }
+}
+
 }  // namespace
+
+void LimpiaTemporales(const std::string& carpeta) { LimpiaEn(carpeta, "."); }
 
 int EscribeArchivoEntero(const std::string& ruta, std::string_view contenido) {
     namespace fs = std::filesystem;
@@ -54,15 +85,19 @@ int EscribeArchivoEntero(const std::string& ruta, std::string_view contenido) {
     if (fs::is_directory(antes)) return ErrAccesoRuta;
     if (fs::exists(antes) && !fs::is_regular_file(antes)) return EscribeEnDispositivo(destino, contenido);
 
+    // What a writer killed while saving this file left behind goes first.
+    const std::string prefijo = PrefijoTemporal(destino.filename().string());
+    LimpiaEn(carpeta, prefijo);
+
     // A fresh name each time, opened exclusively, so that two programs saving
     // at once never share a temporary file.
     std::random_device azar;
     fs::path temporal;
     FILE* f = nullptr;
     for (int intento = 0; intento < 20 && !f; ++intento) {
-        std::string nombre(1, '.');
-        nombre += destino.filename().string();
-        nombre += '.';
+        std::string nombre = prefijo;
+        nombre += std::to_string(plataforma::IdProceso());
+        nombre += '-';
         nombre += std::to_string(azar());
         nombre += ".tmp";
         temporal = carpeta / nombre;

@@ -11,4 +11,8 @@ namespace vedrano {
 // error number of the fault (the temporary file is then removed).
 int EscribeArchivoEntero(const std::string& ruta, std::string_view contenido);
 
+// Removes from `carpeta` the temporary files that writers killed in the
+// middle of a save left behind (those of writers still running stay).
+void LimpiaTemporales(const std::string& carpeta);
+
 }  // namespace vedrano

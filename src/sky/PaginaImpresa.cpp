@@ -1,5 +1,7 @@
 #include "sky/PaginaImpresa.h"
 
+#include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPageLayout>
@@ -11,6 +13,7 @@
 
 #include "app/Texto1252.h"
 #include "astro/TextosAngulo.h"
+#include "config/EscrituraSegura.h"
 #include "sky/DibujaCielo.h"
 
 namespace vedrano {
@@ -110,13 +113,25 @@ bool ImprimePagina(QPagedPaintDevice& dispositivo, const Estado& estado, const C
     return p.end();
 }
 
-bool EscribePdf(const QString& archivo, const Estado& e, const Catalogos& c) {
-    QPdfWriter pdf(archivo);
+bool EscribePdf(const QString& archivo, const Estado& e, const Catalogos& c, int* error) {
+    if (error) *error = 0;
     if (QFileInfo(archivo).fileName().isEmpty()) return false;
-    pdf.setResolution(300);
-    pdf.setCreator(QStringLiteral("VEDRANO"));
-    pdf.setTitle(QStringLiteral("Cielo"));
-    return ImprimePagina(pdf, e, c);
+    // The page is made in memory and then written whole: a full disk leaves
+    // the old file or none, never an empty or a cut one.
+    QByteArray bytes;
+    QBuffer memoria(&bytes);
+    memoria.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter pdf(&memoria);
+        pdf.setResolution(300);
+        pdf.setCreator(QStringLiteral("VEDRANO"));
+        pdf.setTitle(QStringLiteral("Cielo"));
+        if (!ImprimePagina(pdf, e, c)) return false;
+    }
+    const int fallo =
+        EscribeArchivoEntero(QFile::encodeName(archivo).toStdString(), std::string_view(bytes.constData(), bytes.size()));
+    if (error) *error = fallo;
+    return fallo == 0;
 }
 
 }  // namespace vedrano

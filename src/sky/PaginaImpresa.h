@@ -27,7 +27,9 @@ QStringList LineasTitulo(Estado& e);
 // False when the device cannot be painted on.
 bool ImprimePagina(QPagedPaintDevice& dispositivo, const Estado& e, const Catalogos& c);
 
-// The same page into a PDF file. False when the file cannot be written.
-bool EscribePdf(const QString& archivo, const Estado& e, const Catalogos& c);
+// The same page into a PDF file, written whole or not at all. False when the
+// file cannot be written; then `error`, when given, holds the run-time error
+// number of the fault (61 for a full disk), or 0 for a name that is no file.
+bool EscribePdf(const QString& archivo, const Estado& e, const Catalogos& c, int* error = nullptr);
 
 }  // namespace vedrano

@@ -11,6 +11,7 @@
 #include "app/Texto1252.h"
 #include "catalogue/CargaCatalogos.h"
 #include "cli/Argumentos.h"
+#include "config/EscrituraSegura.h"
 #include "config/LeeConfiguracion.h"
 #include "config/Preferencias.h"
 #include "dialogs/Mensajes.h"
@@ -54,6 +55,7 @@ int main(int argc, char** argv) {
     QPointer<QWidget> careta = MuestraCareta(e);
 
     PreparaCarpetas(e, plataforma::CarpetaPrograma(argv[0]), plataforma::CarpetaSistema());
+    LimpiaTemporales(e.DirArchivo);  // what a save cut short by a crash left behind
     e.ArchivoPreferencias = RutaPreferencias();
     e.Pref = LeePreferencias(e.ArchivoPreferencias);
 
