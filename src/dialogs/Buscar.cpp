@@ -161,6 +161,8 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     caja->addWidget(dia_);
     caja->addLayout(pie);
     muestraIndice();
+    // The keys start in the search box: what is typed is searched at once.
+    filtro_->setFocus();
 }
 
 QString Buscar::titulo() const { return titulo_->texto(); }

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QScrollArea>
@@ -90,6 +91,7 @@ void Cielo::Construye() {
     vista_ = new VistaCielo(e_, c_, mensajes_, this);
     vista_->setFocusPolicy(Qt::StrongFocus);
     vista_->setAccessibleName(QStringLiteral("Cielo"));
+    connect(vista_, &VistaCielo::ObjetoPedido, this, &Cielo::InformaObjeto);
     connect(vista_, &VistaCielo::Dibujado, this, &Cielo::RefrescaCampos);
     connect(vista_, &VistaCielo::VistaCentrada, this, [this] {
         RefrescaCampos();
@@ -109,6 +111,9 @@ void Cielo::Construye() {
         auto* b = new BotonPanel(e_, k, QString::fromUtf8(BOTONES[k].ayuda), panelBotones_);
         b->move(BOTONES[k].izquierda, BOTONES[k].arriba);
         connect(b, &BotonPanel::soltado, this, &Cielo::BotonSoltado);
+        // The tooltips keep their texts; the keys go to the screen reader.
+        static const char* const teclas[10] = {"", "Ctrl+O, Ctrl+S", "", "", "", "", "Ctrl+F", "Ctrl+P", "F1", "Ctrl+Q"};
+        if (*teclas[k]) b->setAccessibleDescription(QStringLiteral("Teclas: ") + QString::fromLatin1(teclas[k]));
         botones_[static_cast<std::size_t>(k)] = b;
     }
 
@@ -302,6 +307,11 @@ void Cielo::keyPressEvent(QKeyEvent* ev) {
         case Qt::Key_Space:
             if (!ev->isAutoRepeat()) PasoTecla(5, e_.PasoDias < 0 ? -1 : 1);
             return;
+        case Qt::Key_I: {
+            const QPoint p = vista_->mapFromGlobal(QCursor::pos());
+            if (vista_->rect().contains(p)) InformaObjeto(vista_->ObjetoEn(p));
+            return;
+        }
         default: QWidget::keyPressEvent(ev);
     }
 }
@@ -316,12 +326,19 @@ void Cielo::Atajos() {
         {QKeySequence(Qt::CTRL | Qt::Key_O), [this] { BotonSoltado(1); }},
         {QKeySequence(Qt::CTRL | Qt::Key_S), [this] { BotonSoltado(1); }},
         {QKeySequence(Qt::CTRL | Qt::Key_P), [this] { BotonSoltado(7); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { BotonSoltado(9); }},
         {QKeySequence(Qt::Key_F11), [this] { isFullScreen() ? showNormal() : showFullScreen(); }},
     };
     for (const Atajo& a : atajos) {
         auto* s = new QShortcut(a.teclas, this);
         connect(s, &QShortcut::activated, this, a.accion);
     }
+}
+
+void Cielo::InformaObjeto(const ObjetoSenalado& objeto) {
+    if (objeto.clase == ClaseObjeto::Ninguno || !dialogos_.Informacion) return;
+    e_.Sujecion = e_.Enganche = false;  // as every form does, it stops the animation
+    dialogos_.Informacion(contexto_, objeto);
 }
 
 void Cielo::AyudaContexto() {

@@ -13,6 +13,7 @@
 #include "catalogue/Catalogos.h"
 #include "dialogs/ContextoDialogo.h"
 #include "dialogs/MensajesVentana.h"
+#include "sky/apunta/ObjetoBajo.h"
 
 class QScrollArea;
 
@@ -33,6 +34,7 @@ struct DialogosCielo {
     std::function<void(ContextoDialogo&)> CargaGuar, Personal, Locali, Hora, Objetos, Buscar, Impresor, Animar;
     std::function<void(QWidget*, int)> Ayuda;  // the help window at a topic
     std::function<int(QWidget*)> TemaDe;       // the help topic of a form (0: the main window's)
+    std::function<void(ContextoDialogo&, const ObjetoSenalado&)> Informacion;  // an object's form
 };
 
 class Cielo : public QWidget {
@@ -57,6 +59,8 @@ public:
     void PasoTecla(int i, int signo);
     // F1: the help of the form that holds the focus.
     void AyudaContexto();
+    // The information form of an object (none: nothing opens).
+    void InformaObjeto(const ObjetoSenalado& objeto);
     // The dialog button `k` released (1..9).
     void BotonSoltado(int k);
     // Push buttons 44 (animation dialog) and 45 (restore the work file).
