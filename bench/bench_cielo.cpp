@@ -1,8 +1,10 @@
 // The full rendering pass at 1024x768 with every layer on and all stars,
-// and the projection of all the stars alone.
+// the projection of all the stars alone, and the PNG encoding of a picture.
 #include <benchmark/benchmark.h>
 
+#include <QBuffer>
 #include <QGuiApplication>
+#include <QImageWriter>
 
 #include "catalogue/CargaCatalogos.h"
 #include "sky/DibujaCielo.h"
@@ -89,5 +91,25 @@ void BM_ProyeccionEstrellas(benchmark::State& st) {
     }
 }
 BENCHMARK(BM_ProyeccionEstrellas)->Unit(benchmark::kMicrosecond);
+
+// PNG encoding of a 1920x1080 sky, as "vedrano-cli dibuja" writes it:
+// zlib's default level (quality -1) against the light level it uses (80).
+void BM_CodificaPng(benchmark::State& st) {
+    Aplicacion();
+    Lienzo l(1920, 1080);
+    Estado e = TodoEncendido();
+    ActualizaCielo(e, Datos(), l);
+    QByteArray bytes;
+    for (auto _ : st) {
+        bytes.clear();
+        QBuffer b(&bytes);
+        b.open(QIODevice::WriteOnly);
+        QImageWriter w(&b, "png");
+        w.setQuality(static_cast<int>(st.range(0)));
+        w.write(l.Imagen());
+    }
+    st.counters["bytes"] = static_cast<double>(bytes.size());
+}
+BENCHMARK(BM_CodificaPng)->Arg(-1)->Arg(80)->Unit(benchmark::kMillisecond);
 
 }  // namespace
