@@ -8,6 +8,7 @@
 #include "astro/Calendario.h"
 #include "astro/Coordenadas.h"
 #include "astro/Precesion.h"
+#include "astro/PrecisionAlta.h"
 #include "astro/TextosAngulo.h"
 
 namespace {
@@ -68,6 +69,25 @@ void BM_TextoHoras(benchmark::State& s) {
     }
 }
 BENCHMARK(BM_TextoHoras);
+
+// The precise model's solar system for one redraw: the apparent sidereal
+// time, the instant's Earth and rotation to the date, the eight planets and
+// Pluto, the Sun and the topocentric Moon, at a new instant each time.
+void BM_SistemaSolarPreciso(benchmark::State& s) {
+    double jd = 2460700.4;
+    for (auto _ : s) {
+        jd += 0.01;
+        double tsl = TiempoSidereoAparente(jd, 0.08);
+        InstantePreciso instante = PreparaInstante(jd);
+        for (int cuerpo = 1; cuerpo <= 11; ++cuerpo) {
+            if (cuerpo == 3) continue;
+            LugarPreciso l = LugarAparente(cuerpo, instante);
+            if (cuerpo == 11) l = Topocentrico(l, 0.64, tsl);
+            benchmark::DoNotOptimize(l);
+        }
+    }
+}
+BENCHMARK(BM_SistemaSolarPreciso)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

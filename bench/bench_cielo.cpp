@@ -1,8 +1,10 @@
 // The full rendering pass at 1024x768 with every layer on and all stars,
-// and the projection of all the stars alone.
+// the projection of all the stars alone, and the PNG encoding of a picture.
 #include <benchmark/benchmark.h>
 
+#include <QBuffer>
 #include <QGuiApplication>
+#include <QImageWriter>
 
 #include "catalogue/CargaCatalogos.h"
 #include "sky/DibujaCielo.h"
@@ -59,18 +61,20 @@ Estado TodoEncendido() {
     return e;
 }
 
+// Argument 0: the classic model; 1: the precise one.
 void BM_PasadaCompleta(benchmark::State& st) {
     Aplicacion();
     const Catalogos& c = Datos();
     Lienzo l(1024, 768);
     Estado e = TodoEncendido();
+    e.Pref.PrecisionAlta = st.range(0) != 0;
     ActualizaCielo(e, c, l);
     for (auto _ : st) {
         DibujaCielo(e, c, l);
         benchmark::DoNotOptimize(l.Imagen().constBits());
     }
 }
-BENCHMARK(BM_PasadaCompleta)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_PasadaCompleta)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 void BM_ProyeccionEstrellas(benchmark::State& st) {
     const Catalogos& c = Datos();
@@ -87,5 +91,25 @@ void BM_ProyeccionEstrellas(benchmark::State& st) {
     }
 }
 BENCHMARK(BM_ProyeccionEstrellas)->Unit(benchmark::kMicrosecond);
+
+// PNG encoding of a 1920x1080 sky, as "vedrano-cli dibuja" writes it:
+// zlib's default level (quality -1) against the light level it uses (80).
+void BM_CodificaPng(benchmark::State& st) {
+    Aplicacion();
+    Lienzo l(1920, 1080);
+    Estado e = TodoEncendido();
+    ActualizaCielo(e, Datos(), l);
+    QByteArray bytes;
+    for (auto _ : st) {
+        bytes.clear();
+        QBuffer b(&bytes);
+        b.open(QIODevice::WriteOnly);
+        QImageWriter w(&b, "png");
+        w.setQuality(static_cast<int>(st.range(0)));
+        w.write(l.Imagen());
+    }
+    st.counters["bytes"] = static_cast<double>(bytes.size());
+}
+BENCHMARK(BM_CodificaPng)->Arg(-1)->Arg(80)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 Writes into SALIDA (resources/ by default):
   controles.png          the control bitmap: every control copies its cells from it
+  controles@2x.png       the same at two device pixels a pixel, for hi-DPI screens
   cursores/NN_Nombre.png the five custom cursors, 21 to 25 (hot spot in cursores/puntos.txt)
   sonidos/N.wav          the four click sounds, 4, 6, 7 and 9
 
@@ -33,15 +34,29 @@ ROJO = (200, 0, 0)
 
 
 class Lienzo:
-    """An RGBA raster with the few drawing operations the cells need."""
+    """An RGBA raster with the few drawing operations the cells need.
 
-    def __init__(self, ancho, alto, fondo=GRIS + (255,)):
-        self.ancho, self.alto = ancho, alto
-        self.px = [[fondo for _ in range(ancho)] for _ in range(alto)]
+    Coordinates are pixels of the 1x picture; with escala k each of them is
+    k x k device pixels, and polygons and circles are filled on the finer
+    grid, so their edges are as sharp as the device allows.
+    """
+
+    def __init__(self, ancho, alto, fondo=GRIS + (255,), escala=1):
+        self.ancho, self.alto, self.k = ancho, alto, escala
+        self.px = [[fondo for _ in range(ancho * escala)] for _ in range(alto * escala)]
+
+    def fino(self, i, j, color):
+        """One device pixel."""
+        if 0 <= i < self.ancho * self.k and 0 <= j < self.alto * self.k:
+            self.px[j][i] = color if len(color) == 4 else color + (255,)
 
     def punto(self, x, y, color):
-        if 0 <= x < self.ancho and 0 <= y < self.alto:
-            self.px[y][x] = color if len(color) == 4 else color + (255,)
+        for j in range(y * self.k, (y + 1) * self.k):
+            for i in range(x * self.k, (x + 1) * self.k):
+                self.fino(i, j, color)
+
+    def color(self, x, y):
+        return self.px[y * self.k][x * self.k]
 
     def rect(self, x, y, w, h, color):
         for j in range(y, y + h):
@@ -71,9 +86,11 @@ class Lienzo:
         self.vlinea(x + 1, y + 1, y + h - 3, luz2)
 
     def poligono(self, puntos, color):
-        """Fills the pixels whose centres lie inside the polygon."""
+        """Fills the device pixels whose centres lie inside the polygon."""
+        k = self.k
+        puntos = [(x * k, y * k) for x, y in puntos]
         ys = [p[1] for p in puntos]
-        for j in range(max(0, int(min(ys))), min(self.alto, int(max(ys)) + 1)):
+        for j in range(max(0, int(min(ys))), min(self.alto * k, int(max(ys)) + 1)):
             cy = j + 0.5
             cortes = []
             n = len(puntos)
@@ -83,14 +100,16 @@ class Lienzo:
                     cortes.append(x0 + (cy - y0) * (x1 - x0) / (y1 - y0))
             cortes.sort()
             for a, b in zip(cortes[::2], cortes[1::2]):
-                for i in range(max(0, math.ceil(a - 0.5)), min(self.ancho, math.floor(b - 0.5) + 1)):
-                    self.punto(i, j, color)
+                for i in range(max(0, math.ceil(a - 0.5)), min(self.ancho * k, math.floor(b - 0.5) + 1)):
+                    self.fino(i, j, color)
 
     def circulo(self, cx, cy, r, color):
+        k = self.k
+        cx, cy, r = cx * k, cy * k, r * k
         for j in range(int(cy - r) - 1, int(cy + r) + 2):
             for i in range(int(cx - r) - 1, int(cx + r) + 2):
                 if (i + 0.5 - cx) ** 2 + (j + 0.5 - cy) ** 2 <= r * r:
-                    self.punto(i, j, color)
+                    self.fino(i, j, color)
 
     def mapa(self, x, y, filas, colores):
         """Paints a character map; '.' leaves the pixel as it is."""
@@ -106,7 +125,7 @@ class Lienzo:
             return (struct.pack(">I", len(datos)) + tipo + datos +
                     struct.pack(">I", zlib.crc32(tipo + datos) & 0xFFFFFFFF))
 
-        cabecera = struct.pack(">IIBBBBB", self.ancho, self.alto, 8, 6, 0, 0, 0)
+        cabecera = struct.pack(">IIBBBBB", self.ancho * self.k, self.alto * self.k, 8, 6, 0, 0, 0)
         with open(ruta, "wb") as f:
             f.write(b"\x89PNG\r\n\x1a\n" + trozo(b"IHDR", cabecera) +
                     trozo(b"IDAT", zlib.compress(crudo, 9)) + trozo(b"IEND", b""))
@@ -129,7 +148,7 @@ def media_tecla(l, x, y, arriba, encendida):
         # A lighter face around the lit arrow, kept inside the bevel.
         for j in range(y + 2, y + 8):
             for i in range(x + 2, x + 15):
-                if l.px[j][i][:3] == GRIS:
+                if l.color(i, j)[:3] == GRIS:
                     l.punto(i, j, (208, 216, 240))
 
 
@@ -223,8 +242,8 @@ def boton_dialogo(l, x, y, tipo, pulsado):
         l.poligono(puntos, (0, 170, 0))
 
 
-def mapa_controles():
-    l = Lienzo(240, 93)
+def mapa_controles(escala=1):
+    l = Lienzo(240, 93, escala=escala)
     potenciometro(l)
     cursor_potenciometro(l, 0, 24)
     columna_flechas(l, 66, encendida=False)
@@ -438,6 +457,7 @@ def genera(salida):
     os.makedirs(os.path.join(salida, "cursores"), exist_ok=True)
     os.makedirs(os.path.join(salida, "sonidos"), exist_ok=True)
     mapa_controles().png(os.path.join(salida, "controles.png"))
+    mapa_controles(2).png(os.path.join(salida, "controles@2x.png"))
     puntos = []
     for numero, nombre, dibujo, (hx, hy) in CURSORES:
         dibujo().png(os.path.join(salida, "cursores", "%d_%s.png" % (numero, nombre)))

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 
+#include "astro/PrecisionAlta.h"
 #include "config/Preferencias.h"
 
 namespace vedrano {
@@ -168,6 +169,8 @@ struct Estado {
     int16_t Contador = 0;
 
     mutable DerivadosRotacion Derivados;
+    // The precise model's Earth and rotation of the last instant computed.
+    mutable InstantePreciso InstanteAlta;
 };
 
 }  // namespace vedrano

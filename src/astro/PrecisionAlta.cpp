@@ -142,11 +142,24 @@ void MatrizFecha(double jdUT, double r[3][3]) {
     eraRxr(n, pb, r);
 }
 
-LugarPreciso LugarAparente(int cuerpo, double jdUT) {
+InstantePreciso PreparaInstante(double jdUT) {
+    InstantePreciso i;
+    i.jdUT = jdUT;
+    i.tt = TT(jdUT);
+    Tierra(i.tt, i.tierra);
+    MatrizFecha(jdUT, i.matriz);
+    return i;
+}
+
+LugarPreciso LugarAparente(int cuerpo, double jdUT) { return LugarAparente(cuerpo, PreparaInstante(jdUT)); }
+
+LugarPreciso LugarAparente(int cuerpo, const InstantePreciso& instante) {
     LugarPreciso lugar;
     if (cuerpo < 1 || cuerpo > 11 || cuerpo == 3) return lugar;
-    double tt = TT(jdUT), tierra[2][3], p[3];
-    Tierra(tt, tierra);
+    InstantePreciso i = instante;  // ERFA takes its arguments as writable arrays
+    const double tt = i.tt;
+    auto& tierra = i.tierra;
+    double p[3];
     if (cuerpo == 11) {
         double pv[2][3];
         eraMoon98(tt, 0, pv);
@@ -156,19 +169,17 @@ LugarPreciso LugarAparente(int cuerpo, double jdUT) {
     } else {
         // Where the body was when the light now arriving left it.
         double h[3], tau = 0;
-        for (int i = 0; i < 3; ++i) {
+        for (int k = 0; k < 3; ++k) {
             Heliocentrico(cuerpo, tt - tau, h);
             eraPmp(h, tierra[0], p);
             tau = eraPm(p) / C_UA_DIA;
         }
     }
-    double distancia, u[3], v[3], ap[3], r[3][3];
+    double distancia, u[3], v[3], ap[3];
     eraPn(p, &distancia, u);
-    if (cuerpo == 11) distancia = eraPm(p);
-    for (int i = 0; i < 3; ++i) v[i] = tierra[1][i] / C_UA_DIA;
+    for (int k = 0; k < 3; ++k) v[k] = tierra[1][k] / C_UA_DIA;
     eraAb(u, v, eraPm(tierra[0]), std::sqrt(1 - eraPdp(v, v)), ap);
-    MatrizFecha(jdUT, r);
-    eraRxp(r, ap, ap);
+    eraRxp(i.matriz, ap, ap);
     eraC2s(ap, &lugar.ar, &lugar.dec);
     lugar.ar = eraAnp(lugar.ar);
     lugar.distancia = distancia;

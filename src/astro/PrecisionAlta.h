@@ -16,6 +16,17 @@ struct LugarPreciso {
 // (NASA/TP-2006-214141), the polynomial expressions of Delta T.
 double DeltaT(double jdUT);
 
+// What every body of one instant shares: TT, the Earth's heliocentric
+// position and velocity (au, au/day) and the rotation to the date.
+struct InstantePreciso {
+    double jdUT = 0, tt = 0;
+    double tierra[2][3] = {};
+    double matriz[3][3] = {};
+};
+
+// Prepares the shared part of an instant (Julian day in UT).
+InstantePreciso PreparaInstante(double jdUT);
+
 // Geocentric apparent place of body 1..11 of the solar-system table
 // (1..8 planets, 9 Pluto, 10 Sun, 11 Moon; 3, the Earth, gives a zero
 // place), true equator and equinox of the date.
@@ -28,6 +39,7 @@ double DeltaT(double jdUT);
 // the place is still given, with the error growing smoothly with the
 // distance from that range.
 LugarPreciso LugarAparente(int cuerpo, double jdUT);
+LugarPreciso LugarAparente(int cuerpo, const InstantePreciso& instante);
 
 // The rotation from the catalogue frame (J2000 mean equator, ICRS-aligned)
 // to the true equator and equinox of the date, in ERFA's axes (x to the

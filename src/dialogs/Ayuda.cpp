@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <QScreen>
 #include <algorithm>
 #include <QBoxLayout>
 #include <QKeyEvent>
@@ -42,7 +43,7 @@ VentanaAyuda::VentanaAyuda(Estado& e, QWidget* padre, int t)
     visor_->setOpenLinks(true);
     visor_->setOpenExternalLinks(false);
     visor_->setSource(QUrl(PaginaAyuda(t)));
-    visor_->setMinimumSize(560, 420);
+    visor_->setMinimumSize(380, 300);
 
     auto* salir = new BotonDialogo(e, BotonDialogo::Tipo::Salir, this);
     salir->setToolTip(QStringLiteral(" Salir de la Ayuda "));
@@ -55,7 +56,7 @@ VentanaAyuda::VentanaAyuda(Estado& e, QWidget* padre, int t)
     l->setContentsMargins(8, 8, 8, 8);
     l->addWidget(visor_, 1);
     l->addLayout(botones);
-    resize(640, 520);
+    resize(460, 560);
 }
 
 void VentanaAyuda::muestraTema(int t) { visor_->setSource(QUrl(PaginaAyuda(t))); }
@@ -88,10 +89,14 @@ VentanaAyuda* MuestraAyuda(Estado& e, QWidget* padre, int t) {
         });
     }
     if (nueva && principal) {
-        // Beside the sky: over the right-hand part of the main window,
-        // leaving its panels and most of the picture in view.
+        // Beside the sky: right of the main window where the screen has
+        // room, else against the screen's right edge over the objects panel.
         const QRect sobre = principal->frameGeometry();
-        ventana->move(std::max(sobre.left(), sobre.right() - ventana->width() - 8), sobre.top() + 40);
+        QRect pantalla = principal->screen() ? principal->screen()->availableGeometry() : sobre;
+        ventana->resize(ventana->width(), std::min(sobre.height(), pantalla.height()));
+        int x = sobre.right() + 8;
+        if (x + ventana->width() > pantalla.right()) x = std::max(pantalla.left(), pantalla.right() - ventana->width());
+        ventana->move(x, sobre.top());
     }
     ventana->show();
     ventana->raise();

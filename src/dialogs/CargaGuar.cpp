@@ -100,6 +100,8 @@ CargaGuar::CargaGuar(ContextoDialogo& ctx)
     connect(borrar_, &Pulsador::accionado, this, [this] { borra(); });
     connect(animacion_, &Interruptor::cambiado, this, [&e](bool si) { e.IncluirAnimacion = si; });
     llenaLista(std::string());
+    // The keys start at the name: typed and saved, or the list a Shift+Tab away.
+    nombre_->setFocus();
 }
 
 void CargaGuar::llenaLista(const std::string& elegido) {

@@ -7,7 +7,9 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <cstring>
 #include <iterator>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -297,6 +299,58 @@ TEST(DatosCatalogo, LugaresConocidosYElPuntoInicialEnElIndice95) {
         }
         EXPECT_TRUE(hallado) << esperado.nombre;
     }
+}
+
+// Names and magnitudes as the sky has them: one star per proper name, no
+// numbered members of old asterisms, each star under its own
+// constellation's designation, Miras at maximum, globular clusters at their
+// integrated visual magnitude (Harris 2010: M13 5.8, M71 8.2), and the
+// zodiac as Spanish astronomers name it.
+TEST(DatosCatalogo, NombresYMagnitudesComoLosDaElCielo) {
+    const std::string estrellas = Fichero("VDRDAT2.DAT");
+    std::map<std::string, int> nombres;
+    std::map<std::string, std::string> porDesignacion;
+    std::map<std::string, float> magnitud;
+    for (int i = 0; i < 2583; ++i) {
+        std::string_view r = Registro(estrellas, 44, i);
+        auto corta = [](std::string_view t) { return std::string(t.substr(0, t.find_last_not_of(' ') + 1)); };
+        std::string d = corta(r.substr(0, 8)), n = corta(r.substr(8, 10));
+        float m;
+        std::memcpy(&m, r.data() + 26, 4);
+        porDesignacion[d] = n;
+        magnitud[d] = m;
+        if (n.empty()) continue;
+        EXPECT_EQ(++nombres[n], 1) << n;
+        EXPECT_EQ(n.find(" I"), std::string::npos) << n;  // "Alrial III", "Almizan I"
+        EXPECT_EQ(n.find(" V"), std::string::npos) << n;
+    }
+    EXPECT_EQ(porDesignacion.count("Ups Per"), 0u);
+    EXPECT_EQ(porDesignacion.count("Psi10Aur"), 0u);
+    EXPECT_EQ(porDesignacion["51 And"], "Nembus");
+    EXPECT_EQ(porDesignacion["16 Lyn"], "");
+    EXPECT_EQ(porDesignacion["Alf Gru"], "Alnair");
+    EXPECT_NEAR(magnitud["Omi Cet"], 2.0, 0.05);
+    EXPECT_NEAR(magnitud["Chi Cyg"], 3.3, 0.05);
+
+    const std::string messier = Fichero("VDRDATG.DAT");
+    auto mag = [&messier](int m) { return std::stod(std::string(Registro(messier, 66, m - 1).substr(15, 4))); };
+    const struct {
+        int m;
+        double v;
+    } harris[] = {{13, 5.8}, {71, 8.2}, {14, 7.6}, {10, 6.6}, {19, 6.8}, {22, 5.1}};
+    for (const auto& h : harris) EXPECT_NEAR(mag(h.m), h.v, 0.45) << "M" << h.m;
+
+    const std::string constelaciones = Fichero("VDRDATE.DAT");
+    std::map<std::string, std::string> espanol;
+    for (int i = 0; i < 88; ++i) {
+        std::string_view r = Registro(constelaciones, 94, i);
+        std::string e(r.substr(45, 20));
+        espanol[std::string(r.substr(2, 3))] = e.substr(0, e.find_last_not_of(' ') + 1);
+    }
+    const char* zodiaco[][2] = {{"Ari", "Aries"},  {"Tau", "Tauro"},       {"Gem", "G\xE9minis"}, {"Cnc", "C\xE1ncer"},
+                                {"Vir", "Virgo"},  {"Lib", "Libra"},       {"Sco", "Escorpio"},  {"Sgr", "Sagitario"},
+                                {"Cap", "Capricornio"}, {"Aqr", "Acuario"}, {"Psc", "Piscis"}};
+    for (const auto& z : zodiaco) EXPECT_EQ(espanol[z[0]], z[1]) << z[0];
 }
 
 }  // namespace

@@ -21,6 +21,11 @@ NUM_PUNTOS_FIGURAS = 873
 # far south (level 4): from Spain it never stands well above the horizon.
 DEC_SUR_LEJANO = -35.0
 NOMBRES_CASTELLANOS_CORTOS = {'Cabellera de Berenice': 'Cabellera Berenice'}
+# The zodiac as Spanish astronomers name it, not translated word by word
+# ("Carnero", "Gemelos", "Virgen", "Balanza"...).
+NOMBRES_ZODIACO = {'Ari': 'Aries', 'Tau': 'Tauro', 'Gem': 'Géminis', 'Cnc': 'Cáncer', 'Vir': 'Virgo',
+                   'Lib': 'Libra', 'Sco': 'Escorpio', 'Sgr': 'Sagitario', 'Cap': 'Capricornio',
+                   'Aqr': 'Acuario', 'Psc': 'Piscis'}
 
 
 def _nivel(fila):
@@ -62,6 +67,7 @@ def escribe_vdrdate(fuentes, salida):
     for f in constelaciones(fuentes):
         ar, dec = binario.grados(f['label_ra_deg_d3'], f['label_dec_deg_d3'])
         castellano = NOMBRES_CASTELLANOS_CORTOS.get(f['name_es_cdc'], f['name_es_cdc'])
+        castellano = NOMBRES_ZODIACO.get(f['abbr'], castellano)
         registros.append(binario.entero(f['nivel']) + binario.texto(f['abbr'], 3)
                          + binario.texto(f['latin'], 20) + binario.texto(f['genitive'], 20)
                          + binario.texto(castellano, 20)

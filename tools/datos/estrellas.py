@@ -9,6 +9,7 @@ Kind = 1 when variable + 2 when multiple, with the rules below, chosen so
 that the legend's classes mean something at the eyepiece.
 """
 import os
+import re
 
 from . import binario
 
@@ -67,20 +68,50 @@ def tipo(fila):
     return (1 if _es_variable(fila) else 0) + (2 if _es_multiple(fila) else 0)
 
 
+def _maximos_mira(fuentes):
+    """GCVS visual maxima of the Mira variables, by Hipparcos number: a
+    Mira is shown as it is seen at its best (Mira 2.0, chi Cyg 3.3), not at
+    the catalogue's mean."""
+    maximos = {}
+    with open(os.path.join(fuentes, 'estrellas', 'gcvs_hip_part.dat'), encoding='utf-8') as f:
+        for linea in f:
+            c = linea.rstrip('\n').split('\t')
+            if len(c) > 7 and c[2] == 'M' and c[7] == 'V' and c[3]:
+                maximos[c[0]] = c[3]
+    return maximos
+
+
+def _con_maximos(fuentes, filas):
+    maximos = _maximos_mira(fuentes)
+    for f in filas:
+        if f['hip'] in maximos and f['vmag']:
+            f['vmag'] = maximos[f['hip']]
+    return filas
+
+
 def _orden(fila):
     return (float(fila['vmag']), int(fila['hip']))
 
 
 def estrellas(fuentes):
-    filas = binario.lee_csv(os.path.join(fuentes, 'estrellas', 'estrellas_hip_v8.csv'))
+    filas = _con_maximos(fuentes, binario.lee_csv(os.path.join(fuentes, 'estrellas', 'estrellas_hip_v8.csv')))
     filas.sort(key=_orden)
     return filas
 
 
+def _constelacion(d):
+    return d.split(';')[0].strip().split(' ')[-1]
+
+
 def designacion(fila):
     """Bayer (Latin letters), else Flamsteed, else the variable-star name,
-    in at most 8 characters: a component letter and then the blank go first."""
+    in at most 8 characters: a component letter and then the blank go first.
+    A Bayer letter of another constellation than the star's Flamsteed number
+    is an old one the star no longer bears ("Ups Per" of 51 And)."""
     for campo in ('bayer_latin', 'flamsteed', 'gcvs_latin'):
+        if campo == 'bayer_latin' and fila['flamsteed'] and fila['bayer_latin'] \
+                and _constelacion(fila['bayer_latin']) != _constelacion(fila['flamsteed']):
+            continue
         if fila[campo]:
             d = fila[campo].split(';')[0].strip()
             partes = d.split(' ')
@@ -92,20 +123,42 @@ def designacion(fila):
     return ''
 
 
-def nombre(fila):
+def _nombre_propio(fila):
     n = fila['name_es'] or fila['name']
     if len(n) > 10:
         n = NOMBRES_CORTOS.get(n, '')
     return n
 
 
+ROMANO = re.compile(r' [IVX]+$')
+
+
+def nombres_unicos(filas):
+    """The proper name each star keeps: one star per name (the one the IAU
+    approved, else the brightest), and no numbered members of an old
+    asterism ("Alrial III", "Almizan I") unless the IAU took the name."""
+    dueno = {}
+    for f in sorted(filas, key=_orden):
+        n = _nombre_propio(f)
+        if not n or (ROMANO.search(n) and f['name_iau'] != '1'):
+            continue
+        if n not in dueno or (f['name_iau'] == '1' and dueno[n]['name_iau'] != '1'):
+            dueno[n] = f
+    return {f['hip']: n for n, f in dueno.items()}
+
+
+def nombre(fila, unicos):
+    return unicos.get(fila['hip'], '')
+
+
 def con_nombre(fuentes, tipos):
     """The brightest stars to V 8 with a designation or a proper name."""
-    filas = binario.lee_csv(os.path.join(fuentes, 'estrellas', 'estrellas_designaciones.csv'))
-    filas = [f for f in filas if f['vmag'] and f['hip'] in tipos
-             and (designacion(f) or nombre(f))]
+    filas = _con_maximos(fuentes, binario.lee_csv(os.path.join(fuentes, 'estrellas', 'estrellas_designaciones.csv')))
+    filas = [f for f in filas if f['vmag'] and f['hip'] in tipos]
+    unicos = nombres_unicos(filas)
+    filas = [f for f in filas if designacion(f) or nombre(f, unicos)]
     filas.sort(key=_orden)
-    return filas[:NUM_ESTRELLAS_NOMBRE]
+    return filas[:NUM_ESTRELLAS_NOMBRE], unicos
 
 
 def escribe_vdrdat1(fuentes, salida):
@@ -121,11 +174,11 @@ def escribe_vdrdat1(fuentes, salida):
 
 def escribe_vdrdat2(fuentes, salida):
     tipos = {f['hip']: tipo(f) for f in estrellas(fuentes)}
-    filas = con_nombre(fuentes, tipos)
+    filas, unicos = con_nombre(fuentes, tipos)
     registros = []
     for f in filas:
         ar, dec = binario.grados(f['ra_deg'], f['dec_deg'])
-        registros.append(binario.texto(designacion(f), 8) + binario.texto(nombre(f), 10)
+        registros.append(binario.texto(designacion(f), 8) + binario.texto(nombre(f, unicos), 10)
                          + binario.simple(ar) + binario.simple(dec)
                          + binario.simple(float(f['vmag'])) + binario.entero(tipos[f['hip']])
                          + binario.vector(ar, dec))

@@ -69,6 +69,10 @@ def _tipo(fila, hubble):
 
 
 def _magnitud(fila):
+    # OpenNGC's V for globular clusters is no integrated magnitude (M71 came
+    # out brighter than M13): SEDS's visual magnitudes are.
+    if fila['type'] == 'GCl' and fila['mag_seds_d3']:
+        return '%4.1f' % float(fila['mag_seds_d3'])
     v = fila['vmag'] or fila['mag_seds_d3']
     return '%4.1f' % float(v)
 

@@ -7,6 +7,7 @@
 #include "dialogs/CargaGuar.h"
 #include "dialogs/Hora.h"
 #include "dialogs/Impresor.h"
+#include "dialogs/InfoObjeto.h"
 #include "dialogs/Locali.h"
 #include "dialogs/Mensajes.h"
 #include "dialogs/Objetos.h"
@@ -26,6 +27,7 @@ DialogosCielo Dialogos(Estado& e) {
     d.Animar = AbreAnimar;
     d.Ayuda = [&e](QWidget* padre, int tema) { MuestraAyuda(e, padre, tema); };
     d.TemaDe = TemaDeForma;
+    d.Informacion = AbreInfoObjeto;
     return d;
 }
 
@@ -38,6 +40,7 @@ int TemaDeForma(QWidget* forma) {
     if (qobject_cast<Buscar*>(forma)) return tema::BUSCAR;
     if (qobject_cast<Impresor*>(forma)) return tema::IMPRESOR;
     if (qobject_cast<Animar*>(forma)) return tema::ANIMAR;
+    if (qobject_cast<InfoObjeto*>(forma)) return tema::TECLADO;
     if (auto* m = qobject_cast<Mensajes*>(forma)) return m->tema();
     return 0;
 }

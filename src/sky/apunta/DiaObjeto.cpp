@@ -5,11 +5,10 @@
 
 #include "app/Aritmetica.h"
 #include "astro/Coordenadas.h"
-#include "astro/Planetas.h"
 #include "astro/Precesion.h"
-#include "astro/Sidereo.h"
 #include "astro/TextosAngulo.h"
 #include "astro/Tiempo.h"
+#include "sky/proyeccion/SistemaSolar.h"
 
 namespace vedrano {
 
@@ -69,12 +68,13 @@ DiaObjeto HallaDia(const Estado& e, const TablaPlanetas& planetas, const ObjetoD
     d.jdInicio = Int(e.FechaJuliana + d.adelanto + 0.5) - 0.5 - d.adelanto;
     d.esSol = o.cuerpo == 10;
 
-    // A scratch copy of the state walks through the day; the caller's
-    // state and its caches stay as they were.
+    // A scratch copy of the state walks through the day in the model in
+    // use (classic or precise); the caller's state and caches stay as they were.
     Estado w = e;
+    w.Precesion = false;  // a fixed place is carried to the date once, below
     auto en = [&](double jd) {
         w.FechaJuliana = jd;
-        HallaTiempoSidereo(w, planetas);
+        ActualizaTiempo(w, planetas);
     };
     SidereoEn sidereo = [&](double jd) {
         en(jd);
@@ -84,23 +84,19 @@ DiaObjeto HallaDia(const Estado& e, const TablaPlanetas& planetas, const ObjetoD
     if (o.cuerpo >= 1 && o.cuerpo <= 11) {
         posicion = [&](double jd) {
             en(jd);
-            if (o.cuerpo <= 9) {
-                HallaPlaneta(w, planetas, static_cast<int16_t>(o.cuerpo));
-            } else {
-                HallaSolAparente(w);
-                if (o.cuerpo == 11) HallaLuna(w);
-            }
+            HallaCuerpo(w, planetas, static_cast<int16_t>(o.cuerpo));
             const PosicionCuerpo& p = w.Planetas[static_cast<std::size_t>(o.cuerpo)];
             return Ecuatorial{p.AscRecta, p.Declinacion};
         };
     } else {
         // A fixed place moves only by precession: once for the day's middle.
         Ecuatorial fijo{o.ar, o.dec};
-        if (e.Precesion) {
-            w.FechaJuliana = d.jdInicio + 0.5;
-            HallaPrecesion(w);
+        if (PrecesaCatalogo(e)) {
+            Estado medio = e;
+            medio.FechaJuliana = d.jdInicio + 0.5;
+            HallaPrecesion(medio);
             Vector3f v = AngulosAVector(o.ar, o.dec);
-            AplicaPrecesion(w, v);
+            AplicaPrecesion(medio, v);
             VectorAAngulos(v, fijo.ar, fijo.dec);
         }
         posicion = [fijo](double) { return fijo; };
@@ -124,7 +120,10 @@ std::vector<std::string> TextosDia(const DiaObjeto& d) {
     } else if (h.visibilidad == Visibilidad::NoSale) {
         l.push_back("Salida y puesta: no sale");
     } else {
-        l.push_back("Salida: " + Hora(d, h.orto) + "    Puesta: " + Hora(d, h.ocaso));
+        // In the order of the day: a body that set in the morning rises later.
+        const bool antes = !h.orto.hay || !h.ocaso.hay || h.orto.jd <= h.ocaso.jd;
+        const std::string salida = "Salida: " + Hora(d, h.orto), puesta = "Puesta: " + Hora(d, h.ocaso);
+        l.push_back(antes ? salida + "    " + puesta : puesta + "    " + salida);
     }
     if (h.transito.hay)
         l.push_back("Tr\xE1nsito: " + Hora(d, h.transito) + "  a " + Limpio(TextoSexagesimal(h.alturaTransito)));

@@ -16,7 +16,8 @@ void HallaCuerpo(Estado& e, const TablaPlanetas& t, int16_t cuerpo) {
             HallaPlaneta(e, t, cuerpo);
         return;
     }
-    LugarPreciso l = LugarAparente(cuerpo, e.FechaJuliana);
+    if (e.InstanteAlta.tt == 0 || e.InstanteAlta.jdUT != e.FechaJuliana) e.InstanteAlta = PreparaInstante(e.FechaJuliana);
+    LugarPreciso l = LugarAparente(cuerpo, e.InstanteAlta);
     // The Moon's parallax reaches a degree: it is seen from the observer.
     if (cuerpo == 11) l = Topocentrico(l, e.Latitud, e.TiempoSidereo);
     PosicionCuerpo& b = e.Planetas[static_cast<std::size_t>(cuerpo)];

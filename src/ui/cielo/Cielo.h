@@ -13,6 +13,9 @@
 #include "catalogue/Catalogos.h"
 #include "dialogs/ContextoDialogo.h"
 #include "dialogs/MensajesVentana.h"
+#include "sky/apunta/ObjetoBajo.h"
+
+class QScrollArea;
 
 namespace vedrano {
 
@@ -31,6 +34,7 @@ struct DialogosCielo {
     std::function<void(ContextoDialogo&)> CargaGuar, Personal, Locali, Hora, Objetos, Buscar, Impresor, Animar;
     std::function<void(QWidget*, int)> Ayuda;  // the help window at a topic
     std::function<int(QWidget*)> TemaDe;       // the help topic of a form (0: the main window's)
+    std::function<void(ContextoDialogo&, const ObjetoSenalado&)> Informacion;  // an object's form
 };
 
 class Cielo : public QWidget {
@@ -55,6 +59,8 @@ public:
     void PasoTecla(int i, int signo);
     // F1: the help of the form that holds the focus.
     void AyudaContexto();
+    // The information form of an object (none: nothing opens).
+    void InformaObjeto(const ObjetoSenalado& objeto);
     // The dialog button `k` released (1..9).
     void BotonSoltado(int k);
     // Push buttons 44 (animation dialog) and 45 (restore the work file).
@@ -68,6 +74,8 @@ public:
     controles::SubBaj* SubBaj(int i) const { return subbaj_[static_cast<std::size_t>(i)]; }
     BotonPanel* Boton(int k) const { return botones_[static_cast<std::size_t>(k)]; }
     controles::Pulsador* Restaurar() const { return pulsador45_; }  // "Restaurar situación anterior"
+    // The smallest size at which no panel and no field is cut.
+    QSize TamanoMinimo() const;
 
 protected:
     void resizeEvent(QResizeEvent*) override;
@@ -92,6 +100,7 @@ private:
     MensajesVentana mensajes_;
     ContextoDialogo contexto_;
     VistaCielo* vista_ = nullptr;
+    QScrollArea* columna_ = nullptr;
     Panel *panelBotones_ = nullptr, *panelControl_ = nullptr, *panelLocalizacion_ = nullptr,
           *panelCursor_ = nullptr, *panelObjetos_ = nullptr;
     PanelLeyenda* leyenda_ = nullptr;

@@ -1,8 +1,11 @@
 #include "ui/cielo/VistaCielo.h"
 
 #include <QApplication>
+#include <cmath>
 #include <QMouseEvent>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "app/ErrorEjecucion.h"
@@ -51,6 +54,29 @@ void VistaCielo::Protegido(const std::function<void()>& pasada) {
 QPointF VistaCielo::AUsuario(const QPointF& pixel) const {
     return {e_.EscalaIzquierda + pixel.x() * e_.EscalaAncho / lienzo_.Ancho(),
             e_.EscalaSuperior + pixel.y() * e_.EscalaAlto / lienzo_.Alto()};
+}
+
+ObjetoSenalado VistaCielo::ObjetoEn(const QPointF& pixel) const {
+    if (!listo_ || lienzo_.Ancho() <= 0) return {};
+    constexpr double ALCANCE = 7;  // pixels
+    const QPointF u = AUsuario(pixel);
+    const float radio = static_cast<float>(ALCANCE * std::fabs(e_.EscalaAncho) / lienzo_.Ancho());
+    return ObjetoBajo(e_, c_, static_cast<float>(u.x()), static_cast<float>(u.y()), radio);
+}
+
+bool VistaCielo::event(QEvent* ev) {
+    if (ev->type() != QEvent::ToolTip) return QWidget::event(ev);
+    auto* ayuda = static_cast<QHelpEvent*>(ev);
+    const ObjetoSenalado o = ObjetoEn(ayuda->pos());
+    if (o.clase == ClaseObjeto::Ninguno) {
+        QToolTip::hideText();
+        ev->ignore();
+        return true;
+    }
+    QStringList lineas;
+    for (const std::string& l : DescribeObjeto(e_, c_, o)) lineas << QString::fromUtf8(DesdeA1252(l));
+    QToolTip::showText(ayuda->globalPos(), lineas.join('\n'), this);
+    return true;
 }
 
 void VistaCielo::paintEvent(QPaintEvent*) {
@@ -123,6 +149,12 @@ void VistaCielo::mouseReleaseEvent(QMouseEvent* ev) {
         return;
     }
     if (ev->button() != Qt::LeftButton) return;
+    if (ev->modifiers() & Qt::ControlModifier) {
+        // Ctrl asks what the object is; the plain click keeps centring.
+        const ObjetoSenalado o = ObjetoEn(ev->position());
+        if (o.clase != ClaseObjeto::Ninguno) emit ObjetoPedido(o);
+        return;
+    }
     QPointF u = AUsuario(ev->position());
     if (CentraPunto(e_, c_.TablaPlanetas, m_, static_cast<float>(u.x()), static_cast<float>(u.y()))) {
         DibujaCielo();

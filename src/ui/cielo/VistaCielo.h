@@ -13,6 +13,7 @@
 #include "catalogue/Catalogos.h"
 #include "sky/Lienzo.h"
 #include "sky/apunta/Apunta.h"
+#include "sky/apunta/ObjetoBajo.h"
 
 namespace vedrano {
 
@@ -28,11 +29,14 @@ public:
     const Lienzo& Canvas() const { return lienzo_; }
     // Screen pixel to the picture's user scale.
     QPointF AUsuario(const QPointF& pixel) const;
+    // The object drawn under a pixel (within a few pixels).
+    ObjetoSenalado ObjetoEn(const QPointF& pixel) const;
 
 signals:
     void CursorMovido(const TextosCursor& textos);
     void VistaCentrada();  // a click centred the view: the panels must follow
     void VistaGirada();    // a drag or the wheel changed direction, elevation or zoom
+    void ObjetoPedido(const ObjetoSenalado& objeto);  // Ctrl and a click on an object
     void Dibujado();       // a pass finished: the information fields can be refreshed
 
 protected:
@@ -42,6 +46,7 @@ protected:
     void mousePressEvent(QMouseEvent*) override;
     void mouseReleaseEvent(QMouseEvent*) override;
     void wheelEvent(QWheelEvent*) override;
+    bool event(QEvent* ev) override;  // the tooltip of the object under the pointer
 
 private:
     void DibujaMarca(const QPointF& pixel);

@@ -1,6 +1,7 @@
 #include "ui/controles/Estilo.h"
 
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QWidget>
 
@@ -9,8 +10,18 @@
 namespace vedrano::controles {
 
 const QPixmap& MapaControles() {
-    static const QPixmap mapa(QStringLiteral(":/controles.png"));
+    static const QPixmap mapa = [] {
+        const bool doble = qApp && qApp->devicePixelRatio() > 1.0;
+        QPixmap m(doble ? QStringLiteral(":/controles@2x.png") : QStringLiteral(":/controles.png"));
+        m.setDevicePixelRatio(doble ? 2.0 : 1.0);
+        return m;
+    }();
     return mapa;
+}
+
+QRectF CeldaEnMapa(const QRect& celda) {
+    const qreal k = MapaControles().devicePixelRatio();
+    return {celda.x() * k, celda.y() * k, celda.width() * k, celda.height() * k};
 }
 
 QFont FuenteControles() {
@@ -34,7 +45,7 @@ void EstiloCampo(QWidget* campo) {
 }
 
 void CopiaCelda(QPainter& p, QPoint destino, const QRect& fuente) {
-    p.drawPixmap(destino, MapaControles(), fuente);
+    p.drawPixmap(QPointF(destino), MapaControles(), CeldaEnMapa(fuente));
 }
 
 void ImprimeEtiqueta(QPainter& p, int x, int y, const QString& texto, bool transparente) {

@@ -36,8 +36,11 @@ inline const QRect MANDO{0, 24, 11, 19};
 constexpr int BOTON_X0 = 140, BOTON_PASO = 33, BOTON_PULSADO_Y = 33, BOTON_LADO = 32;
 }  // namespace celda
 
-// The control bitmap, loaded once from the program's resources.
+// The control bitmap, loaded once from the program's resources: drawn at
+// two device pixels a pixel when the screen has more than one.
 const QPixmap& MapaControles();
+// A cell of the bitmap (in its 1x pixels) as a source rectangle of it.
+QRectF CeldaEnMapa(const QRect& celda);
 
 // The family's font: "MS Sans Serif" 8 where it exists, else a sans face
 // of like size.

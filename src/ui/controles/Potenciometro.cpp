@@ -29,7 +29,7 @@ void Potenciometro::pinta(QPainter& p) {
     CopiaCelda(p, {PISTA_X, PISTA_Y}, celda::PISTA);
     // The 11-pixel cell widened to 13, with its edges drawn again.
     const QRect m = mando();
-    p.drawPixmap(m, MapaControles(), celda::MANDO);
+    p.drawPixmap(QRectF(m), MapaControles(), CeldaEnMapa(celda::MANDO));
     p.setPen(BLANCO);
     p.drawLine(m.left(), m.top(), m.right(), m.top());
     p.drawLine(m.left(), m.top(), m.left(), m.bottom());
