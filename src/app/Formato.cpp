@@ -78,23 +78,24 @@ void ParteEntera(std::string& r, std::string_view pEntera, std::string_view ente
     std::size_t primero = std::string_view::npos;
     for (std::size_t i = 0; i < pEntera.size() && primero == std::string_view::npos; ++i)
         if (pEntera[i] == '0' || pEntera[i] == '#') primero = i;
-    char buf[64];
-    std::size_t n = 0;
+    // Room for every digit: a Double can have 309 before the point.
+    std::string buf;
+    buf.reserve(pEntera.size() + entera.size());
     long d = static_cast<long>(entera.size()) - 1;
-    for (std::size_t i = pEntera.size(); i-- > 0 && n < sizeof buf - 24;) {
+    for (std::size_t i = pEntera.size(); i-- > 0;) {
         char c = pEntera[i];
         if (c != '0' && c != '#') {
-            buf[n++] = c;
+            buf += c;
         } else if (i == primero && d >= 0) {
-            while (d >= 0) buf[n++] = entera[static_cast<std::size_t>(d--)];
+            while (d >= 0) buf += entera[static_cast<std::size_t>(d--)];
         } else if (d >= 0) {
-            buf[n++] = entera[static_cast<std::size_t>(d--)];
+            buf += entera[static_cast<std::size_t>(d--)];
         } else if (c == '0') {
-            buf[n++] = '0';
+            buf += '0';
         }
     }
-    std::reverse(buf, buf + n);
-    r.append(buf, n);
+    std::reverse(buf.begin(), buf.end());
+    r += buf;
     if (primero == std::string_view::npos) r.append(entera);
 }
 

@@ -20,6 +20,7 @@
 #include "dialogs/ObjetivoBusqueda.h"
 #include "dialogs/PiezasForma.h"
 #include "dialogs/TextosBuscar.h"
+#include "platform/qt/PantallaQt.h"
 #include "sky/apunta/Apunta.h"
 #include "sky/apunta/DiaObjeto.h"
 #include "ui/controles/BotonDialogo.h"
@@ -34,7 +35,7 @@ using controles::BotonDialogo;
 namespace {
 
 constexpr int TEMA_AYUDA_BUSCAR = tema::BUSCAR;
-constexpr int FILAS_VISIBLES = 18;
+constexpr int FILAS_VISIBLES = 18, FILAS_MINIMAS = 5;
 constexpr int COLUMNAS_VISIBLES = 92;
 
 QString DesdeUtf8(const char* t) { return QString::fromUtf8(t); }
@@ -109,8 +110,8 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     connect(hallados_, &QListWidget::itemActivated, this, [this] { abreHallado(); });
     connect(hallados_, &QListWidget::itemDoubleClicked, this, [this] { abreHallado(); });
     const int ancho = fm.horizontalAdvance(QString(COLUMNAS_VISIBLES, 'M')) + 24;
-    for (QListWidget* l : listas_) l->setMinimumSize(ancho, fm.height() * FILAS_VISIBLES);
-    for (QListWidget* l : {indice_, hallados_}) l->setMinimumSize(ancho, fm.height() * FILAS_VISIBLES);
+    for (QListWidget* l : listas_) l->setMinimumWidth(ancho);
+    for (QListWidget* l : {indice_, hallados_}) l->setMinimumWidth(ancho);
 
     filtro_ = new QLineEdit(this);
     filtro_->setAccessibleName(QStringLiteral("Buscar"));
@@ -212,6 +213,7 @@ void Buscar::muestraIndice() {
     filtro_->blockSignals(false);
     FiltraLista(indice_, {});
     indice_->show();
+    ajustaAPantalla();
 }
 
 void Buscar::muestraHallados(const QString& filtro) {
@@ -237,6 +239,25 @@ void Buscar::muestraHallados(const QString& filtro) {
     indice_->hide();
     hallados_->show();
     hallados_->setCurrentRow(hallados_->count() > 0 ? 0 : -1);
+}
+
+void Buscar::ajustaAPantalla() {
+    // The lists give up rows, down to a few, when the form with its header
+    // and legend would not fit the screen (a large scale factor).
+    const int fila = QFontMetrics(FuenteColumnas()).height();
+    auto filas = [this, fila](int n) {
+        for (QListWidget* l : listas_) l->setMinimumHeight(fila * n);
+        for (QListWidget* l : {indice_, hallados_}) l->setMinimumHeight(fila * n);
+        layout()->invalidate();
+    };
+    filas(FILAS_VISIBLES);
+    const QRect area = plataforma::AreaVentanas(isVisible() ? this : parentWidget());
+    const int sobra = layout()->totalMinimumSize().height() - area.height();
+    if (sobra > 0) filas(std::max(FILAS_MINIMAS, FILAS_VISIBLES - (sobra + fila - 1) / fila));
+    if (isVisible() && !area.contains(frameGeometry())) {
+        adjustSize();
+        move(plataforma::PosicionCentrada(size(), parentWidget()));
+    }
 }
 
 void Buscar::abreHallado() {
@@ -279,6 +300,7 @@ void Buscar::eligeCategoria(int categoria, int fila) {
     }
     l->show();
     muestraDia();
+    ajustaAPantalla();
     filtro_->setFocus();
 }
 

@@ -63,6 +63,8 @@ private:
     void abreHallado();
     // The search button in use, or shown out of use with the reason.
     void permiteBuscar(bool si);
+    // Keeps the whole form on the screen as its legend comes and goes.
+    void ajustaAPantalla();
     void muestraDia();
     void sale();
 

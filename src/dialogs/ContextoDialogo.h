@@ -9,6 +9,7 @@
 #include "app/Estado.h"
 #include "app/InterfazMensajes.h"
 #include "catalogue/Catalogos.h"
+#include "platform/qt/PantallaQt.h"
 #include "sky/OpcionesDibujo.h"
 
 namespace vedrano {
@@ -26,13 +27,15 @@ struct ContextoDialogo {
     OpcionesDibujo* opciones = nullptr;        // program preferences of the picture (none: not offered)
 };
 
+// Sizes a dialog and centres it on the main window, within the screen.
+inline void ColocaCentrado(QDialog& d, QWidget* cielo) {
+    d.adjustSize();
+    d.move(plataforma::PosicionCentrada(d.size(), cielo));
+}
+
 // Shows a dialog modally, centred on the main window.
 inline int MuestraCentrado(QDialog& d, QWidget* cielo) {
-    if (cielo) {
-        d.adjustSize();
-        QPoint centro = cielo->mapToGlobal(QPoint(cielo->width() / 2, cielo->height() / 2));
-        d.move(centro.x() - d.width() / 2, centro.y() - d.height() / 2);
-    }
+    ColocaCentrado(d, cielo);
     return d.exec();
 }
 

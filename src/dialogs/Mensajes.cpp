@@ -2,13 +2,12 @@
 
 #include <QCloseEvent>
 #include <QFontMetrics>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QScreen>
 #include <algorithm>
 
+#include "platform/qt/PantallaQt.h"
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/Estilo.h"
 #include "ui/controles/Pulsador.h"
@@ -97,19 +96,7 @@ Mensajes::Mensajes(Estado& e, QWidget* padre, const std::string& textoCp1252, co
 void Mensajes::showEvent(QShowEvent* ev) {
     // Centred on the window that asked while it is on the screen, or on the
     // screen itself; never placed partly off the screen.
-    QWidget* ventana = parentWidget() ? parentWidget()->window() : nullptr;
-    QScreen* pantalla = ventana && ventana->isVisible() ? ventana->screen() : QGuiApplication::primaryScreen();
-    QRect sobre = ventana && ventana->isVisible() ? ventana->frameGeometry() : QRect();
-    const QRect util = pantalla ? pantalla->availableGeometry() : QRect();
-    if (!sobre.isValid()) sobre = util;
-    if (sobre.isValid()) {
-        QPoint p = sobre.center() - QPoint(width() / 2, height() / 2);
-        if (util.isValid()) {
-            p.setX(std::clamp(p.x(), util.left(), std::max(util.left(), util.right() + 1 - width())));
-            p.setY(std::clamp(p.y(), util.top(), std::max(util.top(), util.bottom() + 1 - height())));
-        }
-        move(p);
-    }
+    move(plataforma::PosicionCentrada(size(), parentWidget()));
     QDialog::showEvent(ev);
 }
 

@@ -27,6 +27,8 @@ TEST(Formato, PicturesOfTheProgram) {
     EXPECT_EQ(Formato(3.0, " 0.0;-0.0"), " 3.0");
     EXPECT_EQ(Formato(-1.46, " 0.0;-0.0"), "-1.5");
     EXPECT_EQ(Formato(0.0, " 0.0;-0.0"), " 0.0");
+    // Found by fuzzing: more integer digits than a fixed buffer held.
+    EXPECT_EQ(Formato(1e300, "#0.0"), "1" + std::string(300, '0') + ".0");
 }
 
 TEST(Aritmetica, RoundingOverflowAndVal) {

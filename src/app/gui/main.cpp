@@ -4,10 +4,13 @@
 #include <QFile>
 #include <QIcon>
 #include <QThread>
+#include <QTimer>
+#include <functional>
 #include <filesystem>
 #include <iostream>
 
 #include "app/Arranque.h"
+#include "app/ErrorEjecucion.h"
 #include "app/Texto1252.h"
 #include "catalogue/CargaCatalogos.h"
 #include "cli/Argumentos.h"
@@ -24,8 +27,30 @@
 
 using namespace vedrano;
 
+namespace {
+
+// The last trap of the window program. Run-time errors are trapped where
+// they arise; one that still reaches the event loop is told with its number
+// (once the event is over) and the program goes on, never aborts.
+class Aplicacion : public QApplication {
+public:
+    using QApplication::QApplication;
+    std::function<void(int)> avisa;
+    bool notify(QObject* receptor, QEvent* evento) override {
+        try {
+            return QApplication::notify(receptor, evento);
+        } catch (const ErrorEjecucion& error) {
+            std::cerr << "VEDRANO: ERROR " << error.numero() << "\n";
+            if (avisa) QTimer::singleShot(0, this, [this, n = error.numero()] { avisa(n); });
+            return false;
+        }
+    }
+};
+
+}  // namespace
+
 int main(int argc, char** argv) {
-    QApplication app(argc, argv);
+    Aplicacion app(argc, argv);
     QApplication::setApplicationName("VEDRANO");
     QApplication::setApplicationVersion("3.2");
     QGuiApplication::setDesktopFileName(QStringLiteral("es.vedrano.Vedrano"));
@@ -65,6 +90,7 @@ int main(int argc, char** argv) {
 
     QApplication::setOverrideCursor(Qt::WaitCursor);
     Cielo cielo(e, c, Dialogos(e));
+    app.avisa = [&](int numero) { MuestraMensaje(e, &cielo, "ERROR " + std::to_string(numero), "VEDRANO", 1, 1); };
     FijaAyudaMensajes([&cielo](int tema) { cielo.Contexto().Ayuda(tema); });
     cielo.show();
     app.processEvents();

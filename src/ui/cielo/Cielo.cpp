@@ -4,14 +4,14 @@
 #include <QCloseEvent>
 #include <QCursor>
 #include <QDialog>
-#include <QGuiApplication>
 #include <QKeyEvent>
-#include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 
 #include "app/Texto1252.h"
 #include "astro/TextosAngulo.h"
 #include "config/LeeConfiguracion.h"
+#include "platform/qt/PantallaQt.h"
 #include "sky/DibujaCielo.h"
 #include "ui/cielo/Paneles.h"
 #include "ui/cielo/PanelLeyenda.h"
@@ -25,9 +25,6 @@
 namespace vedrano {
 
 namespace {
-
-// Fixed sizes of the panels around the sky picture.
-constexpr int ANCHO_IZQUIERDA = 150, ALTO_INFERIOR = 106, ANCHO_LEYENDA = 132;
 
 struct DatosBoton {
     int izquierda, arriba;
@@ -78,13 +75,14 @@ Cielo::Cielo(Estado& e, const Catalogos& c, DialogosCielo dialogos)
     qApp->installEventFilter(this);
     reloj_.setInterval(1000);
     connect(&reloj_, &QTimer::timeout, this, &Cielo::TicTiempoReal);
-    setMinimumSize(640, 480);
-    // Placed by the program, not left to the window manager: the messages
-    // of the start-up are centred on it before it has been mapped.
-    QRect util(0, 0, 800, 600);
-    if (QScreen* s = QGuiApplication::primaryScreen()) util = s->availableGeometry();
-    resize(std::min(800, util.width()), std::min(600, util.height()));
-    move(util.center() - QPoint(width() / 2, height() / 2));
+    // The smallest window that cuts nothing, unless the screen is smaller
+    // still (a large scale factor): then the left column scrolls. Placed by
+    // the program, not left to the window manager, so that the messages of
+    // the start-up are centred on it before it has been mapped.
+    const QSize cabe = plataforma::AreaVentanas().size();
+    setMinimumSize(TamanoMinimo().boundedTo(cabe));
+    resize(QSize(800, 600).expandedTo(minimumSize()).boundedTo(cabe));
+    move(plataforma::PosicionCentrada(size(), nullptr));
 }
 
 Cielo::~Cielo() { e_.Sujecion = e_.Enganche = false; }
@@ -101,8 +99,14 @@ void Cielo::Construye() {
         pulsador45_->show();
     });
 
+    // The left column scrolls on a screen too short for it.
+    columna_ = new QScrollArea(this);
+    columna_->setFrameShape(QFrame::NoFrame);
+    columna_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* contenido = new QWidget;
+    columna_->setWidget(contenido);
     // The button panel keeps its own warm colours.
-    panelBotones_ = new Panel(this, QColor(200, 82, 52), QColor(238, 136, 102), QColor(119, 26, 18));
+    panelBotones_ = new Panel(contenido, QColor(200, 82, 52), QColor(238, 136, 102), QColor(119, 26, 18));
     panelBotones_->setFixedSize(141, 300);
     for (int k = 1; k <= 9; ++k) {
         auto* b = new BotonPanel(e_, k, QString::fromUtf8(BOTONES[k].ayuda), panelBotones_);
@@ -114,8 +118,7 @@ void Cielo::Construye() {
         botones_[static_cast<std::size_t>(k)] = b;
     }
 
-    panelControl_ = new Panel(this);
-    panelControl_->setFixedSize(141, 240);
+    panelControl_ = new Panel(contenido);
     for (int i = 1; i <= 5; ++i) {
         auto* s = new controles::SubBaj(e_, i, A1252(ROTULOS_SUBBAJ[i]), panelControl_);
         s->move(3, 5 + 35 * (i - 1));
@@ -138,7 +141,7 @@ void Cielo::Construye() {
     connect(pulsador45_, &controles::Pulsador::accionado, this, [this] { PulsadorAccionado(45); });
     pulsador45_->hide();
 
-    tiempoReal_ = new CampoInfo(this);
+    tiempoReal_ = new CampoInfo(contenido);
     tiempoReal_->setAccessibleName(QStringLiteral("Tiempo real"));
     tiempoReal_->FijaTexto(QString::fromUtf8("Animación tiempo real"));
     connect(tiempoReal_, &CampoInfo::pulsado, this, [this] { PulsadorAccionado(44); });
@@ -180,55 +183,6 @@ void Cielo::Construye() {
 
     panelObjetos_ = new Panel(this);
     leyenda_ = new PanelLeyenda(e_, panelObjetos_);
-}
-
-void Cielo::Coloca() {
-    const int W = width(), H = height();
-    const bool control = e_.PanelControl, localizacion = e_.PanelLocalizacion, cursor = e_.PanelCursor,
-               objetos = e_.PanelObjetos;
-    int izquierda = ANCHO_IZQUIERDA;
-    panelBotones_->move(4, 4);
-    panelControl_->setVisible(control);
-    panelControl_->move(4, 308);
-    tiempoReal_->setGeometry(4, 552, 141, 20);
-    tiempoReal_->setVisible(control);
-
-    const bool inferior = localizacion || cursor;
-    const int alto = inferior ? H - ALTO_INFERIOR : H;
-    const int derecha = objetos ? W - ANCHO_LEYENDA : W;
-    vista_->setGeometry(izquierda, 0, derecha - izquierda, alto);
-
-    panelObjetos_->setVisible(objetos);
-    panelObjetos_->setGeometry(W - ANCHO_LEYENDA, 0, ANCHO_LEYENDA, alto);
-    leyenda_->setGeometry(3, 3, ANCHO_LEYENDA - 6, std::min(alto - 6, 27 * PanelLeyenda::ALTO_LINEA + 8));
-
-    const int anchoCursor = 176;
-    panelLocalizacion_->setVisible(localizacion);
-    panelLocalizacion_->setGeometry(izquierda, H - ALTO_INFERIOR, W - izquierda - (cursor ? anchoCursor : 0),
-                                    ALTO_INFERIOR);
-    const int columna = (panelLocalizacion_->width() - 8) / 3;
-    auto fila = [&](int y, CampoInfo* a, CampoInfo* b, CampoInfo* c) {
-        a->setGeometry(4, y, columna - 2, 22);
-        b->setGeometry(4 + columna, y, columna - 2, 22);
-        c->setGeometry(4 + 2 * columna, y, columna - 2, 22);
-    };
-    fila(5, loca_, longi_, lati_);
-    fila(30, direc_, eleva_, zoom_);
-    // Dates with their times in two halves, the Julian day below.
-    const int mitad = (panelLocalizacion_->width() - 8) / 2, anchoHora = 64;
-    fecUni_->setGeometry(4, 55, mitad - anchoHora - 3, 22);
-    horUni_->setGeometry(4 + mitad - anchoHora - 1, 55, anchoHora - 1, 22);
-    fecLoc_->setGeometry(4 + mitad, 55, mitad - anchoHora - 3, 22);
-    horLoc_->setGeometry(4 + 2 * mitad - anchoHora - 1, 55, anchoHora - 1, 22);
-    fecJul_->setGeometry(4, 80, mitad - 2, 22);
-
-    panelCursor_->setVisible(cursor);
-    panelCursor_->setGeometry(W - anchoCursor, H - ALTO_INFERIOR, anchoCursor, ALTO_INFERIOR);
-    int y = 5;
-    for (CampoInfo* f : {aRecta_, dec_, altitud_, azimut_}) {
-        f->setGeometry(4, y, anchoCursor - 8, 22);
-        y += 25;
-    }
 }
 
 void Cielo::resizeEvent(QResizeEvent*) { Coloca(); }

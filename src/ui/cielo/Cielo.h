@@ -15,6 +15,8 @@
 #include "dialogs/MensajesVentana.h"
 #include "sky/apunta/ObjetoBajo.h"
 
+class QScrollArea;
+
 namespace vedrano {
 
 class VistaCielo;
@@ -72,6 +74,8 @@ public:
     controles::SubBaj* SubBaj(int i) const { return subbaj_[static_cast<std::size_t>(i)]; }
     BotonPanel* Boton(int k) const { return botones_[static_cast<std::size_t>(k)]; }
     controles::Pulsador* Restaurar() const { return pulsador45_; }  // "Restaurar situación anterior"
+    // The smallest size at which no panel and no field is cut.
+    QSize TamanoMinimo() const;
 
 protected:
     void resizeEvent(QResizeEvent*) override;
@@ -96,6 +100,7 @@ private:
     MensajesVentana mensajes_;
     ContextoDialogo contexto_;
     VistaCielo* vista_ = nullptr;
+    QScrollArea* columna_ = nullptr;
     Panel *panelBotones_ = nullptr, *panelControl_ = nullptr, *panelLocalizacion_ = nullptr,
           *panelCursor_ = nullptr, *panelObjetos_ = nullptr;
     PanelLeyenda* leyenda_ = nullptr;

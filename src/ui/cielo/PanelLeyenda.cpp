@@ -1,6 +1,7 @@
 #include "ui/cielo/PanelLeyenda.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 #include "app/Texto1252.h"
@@ -32,9 +33,13 @@ void PanelLeyenda::paintEvent(QPaintEvent*) {
     p.setRenderHint(QPainter::Antialiasing);
     // Symbols at the size they have at zoom 2 on the default picture.
     const double escala = 180.0;
+    // A taller panel spreads the lines a little and keeps them centred; a
+    // short one (a large scale on a small screen) closes them up.
+    const int linea = std::clamp((height() - 8) / 27, ALTO_LINEA_MINIMO, ALTO_LINEA * 3 / 2);
+    const int arriba = std::max(4, (height() - 27 * linea) / 2);
     for (int i = 0; i < 27; ++i) {
-        int y = 4 + i * ALTO_LINEA;
-        QPointF c(12, y + ALTO_LINEA / 2.0);
+        int y = arriba + i * linea;
+        QPointF c(12, y + linea / 2.0);
         p.setPen(Qt::NoPen);
         if (i <= 8) {  // star dots by magnitude
             double ancho = std::nearbyint((7 - (i - 1)) * 0.07 * e_.Zoom + 1);
@@ -69,7 +74,7 @@ void PanelLeyenda::paintEvent(QPaintEvent*) {
             }
         }
         p.setPen(QColor(220, 220, 220));
-        p.drawText(QRect(26, y, width() - 28, ALTO_LINEA), Qt::AlignVCenter | Qt::AlignLeft,
+        p.drawText(QRect(26, y, width() - 28, linea), Qt::AlignVCenter | Qt::AlignLeft,
                    QString::fromUtf8(ROTULOS[i]));
     }
 }

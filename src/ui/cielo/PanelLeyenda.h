@@ -9,7 +9,7 @@ namespace vedrano {
 class PanelLeyenda : public QWidget {
 public:
     PanelLeyenda(const Estado& e, QWidget* padre);
-    static constexpr int ALTO_LINEA = 15;
+    static constexpr int ALTO_LINEA = 15, ALTO_LINEA_MINIMO = 12;
 
 protected:
     void paintEvent(QPaintEvent*) override;
