@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that VEDRANO needs to build, run and test,
 # when any of them is missing. Run as root (or with sudo available).
+# Extra package names given as arguments are installed the same way.
 set -euo pipefail
 
 PAQUETES=(
@@ -10,6 +11,7 @@ PAQUETES=(
   xvfb xauth poppler-utils
   fonts-urw-base35 qt6-translations-l10n qt6-svg-dev
   desktop-file-utils appstream lintian dpkg-dev fakeroot file
+  "$@"
 )
 
 faltan=()

@@ -8,17 +8,7 @@ set -euo pipefail
 raiz="$(cd "$(dirname "$0")/.." && pwd)"
 segundos="${SEGUNDOS_FUZZ:-60}"
 
-faltan=()
-for p in clang libclang-rt-14-dev; do
-  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || faltan+=("$p")
-done
-if [ ${#faltan[@]} -gt 0 ]; then
-  echo "Instalando: ${faltan[*]}"
-  sudo_=""
-  [ "$(id -u)" -eq 0 ] || sudo_="sudo"
-  $sudo_ apt-get update -qq
-  DEBIAN_FRONTEND=noninteractive $sudo_ apt-get install -y -qq --no-install-recommends "${faltan[@]}"
-fi
+bash "$raiz/scripts/prepara.sh" clang libclang-rt-14-dev
 
 compila="$raiz/build-san"
 CC=clang CXX=clang++ cmake -S "$raiz" -B "$compila" -DCMAKE_BUILD_TYPE=Release -DVEDRANO_FUZZ=ON \

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "EntornoQt.h"
+#include "CatalogosPrueba.h"
 #include "Falsos.h"
 #include "app/Constantes.h"
 #include "app/Formato.h"
@@ -20,21 +21,7 @@ using namespace vedrano;
 
 namespace {
 
-class Calla : public Notificador {
-public:
-    void Avisa(const std::string&, const std::string&) override {}
-};
-
-const Catalogos& Datos() {
-    static Catalogos c;
-    static bool cargado = [] {
-        Calla calla;
-        CargaCatalogos(VEDRANO_DATOS, c, calla);
-        return true;
-    }();
-    (void)cargado;
-    return c;
-}
+const Catalogos& Datos() { return pruebas::CatalogosDePrueba(); }
 
 // Answers the next message box when it shows: Esc cancels a two-button
 // message, Enter accepts; the text is kept for the test.

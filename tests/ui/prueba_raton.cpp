@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "EntornoQt.h"
+#include "CatalogosPrueba.h"
 #include "Falsos.h"
 #include "app/Constantes.h"
 #include "catalogue/CargaCatalogos.h"
@@ -18,21 +19,7 @@ using namespace vedrano;
 
 namespace {
 
-class Calla : public Notificador {
-public:
-    void Avisa(const std::string&, const std::string&) override {}
-};
-
-const Catalogos& Datos() {
-    static Catalogos c;
-    static bool cargado = [] {
-        Calla calla;
-        CargaCatalogos(VEDRANO_DATOS, c, calla);
-        return true;
-    }();
-    (void)cargado;
-    return c;
-}
+const Catalogos& Datos() { return pruebas::CatalogosDePrueba(); }
 
 struct Ventana {
     pruebas::Falsos falsos;

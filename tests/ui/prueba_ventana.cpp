@@ -13,6 +13,7 @@
 #include <functional>
 
 #include "EntornoQt.h"
+#include "CatalogosPrueba.h"
 #include "Falsos.h"
 #include "catalogue/CargaCatalogos.h"
 #include "config/EscribeConfiguracion.h"
@@ -35,21 +36,7 @@ using namespace vedrano;
 
 namespace {
 
-class Calla : public Notificador {
-public:
-    void Avisa(const std::string&, const std::string&) override {}
-};
-
-const Catalogos& Datos() {
-    static Catalogos c;
-    static bool cargado = [] {
-        Calla calla;
-        CargaCatalogos(VEDRANO_DATOS, c, calla);
-        return true;
-    }();
-    (void)cargado;
-    return c;
-}
+const Catalogos& Datos() { return pruebas::CatalogosDePrueba(); }
 
 void Pulsa(QWidget* w) { pruebas::Clic(w, QPoint(w->width() / 2, w->height() / 2)); }
 

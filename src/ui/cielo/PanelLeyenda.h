@@ -6,7 +6,11 @@
 
 namespace vedrano {
 
+// Q_OBJECT gives it its own meta-object, so findChild and qobject_cast
+// tell it from the other widgets of the window.
 class PanelLeyenda : public QWidget {
+    Q_OBJECT
+
 public:
     PanelLeyenda(const Estado& e, QWidget* padre);
     static constexpr int ALTO_LINEA = 15, ALTO_LINEA_MINIMO = 12;
