@@ -14,6 +14,13 @@ namespace {
 // is about a dozen pixels.
 constexpr int ANCHO_MAXIMO_SPRITE = 64;
 
+// Nothing this far off the picture can be seen. A damaged catalogue can
+// project to huge places or to no number at all; leaving those out keeps
+// every conversion to whole pixels defined.
+constexpr double LIMITE_PIXEL = 1e6;
+
+bool Dibujable(const QPointF& p) { return std::fabs(p.x()) < LIMITE_PIXEL && std::fabs(p.y()) < LIMITE_PIXEL; }
+
 }  // namespace
 
 QColor ColorVB(unsigned long bgr) {
@@ -215,6 +222,7 @@ void Lienzo::Punto(double x, double y) {
     if (estilo_ == 5 || soloMedida_) return;
     Vacia();
     QPointF c = APixel(x, y);
+    if (!Dibujable(c)) return;
     // A disc of its own on a vector device or a hi-DPI image, and for a dot
     // wider than any star: a damaged magnitude must not leave a pre-rendered
     // dot of its width (up to 32767 pixels a side) behind.
@@ -281,7 +289,7 @@ std::size_t Lienzo::HashFigura::operator()(const ClaveFigura& k) const {
 
 const Lienzo::Estampa* Lienzo::SpriteFigura(const QPointF& c, double rx, double ry, double inicio, double fin,
                                             bool arco, bool caja) {
-    if (!directo_ || rx > RADIO_FIGURA_MAXIMO || ry > RADIO_FIGURA_MAXIMO) return nullptr;
+    if (!directo_ || !(rx <= RADIO_FIGURA_MAXIMO && ry <= RADIO_FIGURA_MAXIMO) || !Dibujable(c)) return nullptr;
     const double fx = std::floor((c.x() - std::floor(c.x())) * FASES) / FASES;
     const double fy = std::floor((c.y() - std::floor(c.y())) * FASES) / FASES;
     const ClaveFigura clave{static_cast<float>(rx), static_cast<float>(ry), static_cast<float>(inicio),
@@ -411,6 +419,7 @@ void Lienzo::Escribe(std::string_view cp1252, float prioridad) {
     QPointF p = APixel(actualX_, actualY_);
     // The pen moves to the start of the next line, as Print leaves it.
     actualY_ += altoLinea_ / sy_;
+    if (!Dibujable(p)) return;
     std::size_t fin = cp1252.find_last_not_of(' ');
     if (fin == std::string_view::npos) return;  // blanks draw nothing
     std::string_view texto = cp1252.substr(0, fin + 1);

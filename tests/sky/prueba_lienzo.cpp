@@ -105,6 +105,32 @@ TEST(Lienzo, LabelsAndDotsLieWhereThePainterPutsThem) {
     EXPECT_LT(distintos, 40);
 }
 
+TEST(Lienzo, PlacesFarOffThePictureOrNoNumberDrawNothing) {
+    // A damaged catalogue projects stars to huge places or to NaN (found by
+    // fuzzing the loader: the dot's pixel conversion overflowed). They must
+    // leave the picture as it was; under UBSan a conversion out of range fails.
+    const QColor fondo(0, 0, 0);
+    Lienzo l(64, 48);
+    l.Escala(0, 0, 64, 48);
+    l.FijaFondo(fondo);
+    const QImage antes = l.Imagen().copy();
+    const double lejos[] = {1e12, -1e12, 1e300, -1e300, std::nan("")};
+    l.FijaColor(QColor(255, 255, 255));
+    for (double v : lejos) {
+        for (int ancho : {1, 3, 200}) {
+            l.FijaAnchoTrazo(ancho);
+            l.Punto(v, 10);
+            l.Punto(10, v);
+        }
+        l.FijaAnchoTrazo(1);
+        l.Circulo(v, v, 2);
+        l.Caja(v, v, v + 4, v + 4);
+        l.FijaPosicion(v, 5);
+        l.Escribe("Sirius");
+    }
+    EXPECT_EQ(Diferencia(antes, l.Imagen()).first, 0);
+}
+
 TEST(Rotulos, TheHigherRankWinsWhateverTheOrderAndEveryLabelOnRequest) {
     RotulosPasada r;
     r.EmpiezaMedida(100, 50);
