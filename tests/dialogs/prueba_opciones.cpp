@@ -47,22 +47,8 @@ public:
     std::vector<std::string> textos, titulos;
 };
 
-void Pulsa(QWidget* w) { pruebas::Clic(w, QPoint(w->width() / 2, w->height() / 2)); }
-
-// Runs `accion` on the first modal dialog of type T that comes up.
-template <class T>
-void CuandoAparezca(std::function<void(T&)> accion) {
-    auto* t = new QTimer;
-    t->setInterval(5);
-    QObject::connect(t, &QTimer::timeout, [t, accion] {
-        if (auto* d = qobject_cast<T*>(QApplication::activeModalWidget())) {
-            t->stop();
-            t->deleteLater();
-            accion(*d);
-        }
-    });
-    t->start();
-}
+using pruebas::CuandoAparezca;
+using pruebas::Pulsa;
 
 class Opciones : public ::testing::Test {
 protected:

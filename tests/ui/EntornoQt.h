@@ -2,7 +2,9 @@
 // mouse events sent straight to a widget.
 #pragma once
 #include <QApplication>
+#include <functional>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QWidget>
 
 namespace pruebas {
@@ -28,6 +30,24 @@ inline void Raton(QWidget* w, QEvent::Type tipo, QPoint p, Qt::MouseButton boton
 inline void Clic(QWidget* w, QPoint p, Qt::MouseButton boton = Qt::LeftButton) {
     Raton(w, QEvent::MouseButtonPress, p, boton);
     Raton(w, QEvent::MouseButtonRelease, p, boton);
+}
+
+// A click in the middle of a widget.
+inline void Pulsa(QWidget* w) { Clic(w, QPoint(w->width() / 2, w->height() / 2)); }
+
+// Runs `accion` on the first modal window of type T that comes up.
+template <class T>
+void CuandoAparezca(std::function<void(T&)> accion) {
+    auto* t = new QTimer;
+    t->setInterval(5);
+    QObject::connect(t, &QTimer::timeout, [t, accion] {
+        if (auto* d = qobject_cast<T*>(QApplication::activeModalWidget())) {
+            t->stop();
+            t->deleteLater();
+            accion(*d);
+        }
+    });
+    t->start();
 }
 
 }  // namespace pruebas
