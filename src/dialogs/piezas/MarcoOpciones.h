@@ -106,4 +106,9 @@ private:
     controles::BotonDialogo* ayuda_;
 };
 
+// After a form: when the program preferences differ from `antes`, writes
+// them to the settings file (telling the user, under `tituloCp1252`, when
+// it cannot) and returns true.
+bool GuardaPreferencias(ContextoDialogo& ctx, const Preferencias& antes, const std::string& tituloCp1252);
+
 }  // namespace vedrano
