@@ -4,6 +4,7 @@
 // is mapped into memory, not read: opening it costs only its zone table,
 // and a star's page is brought in the first time a view needs it.
 #pragma once
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <memory>
@@ -64,5 +65,12 @@ private:
 
 // The direction of a star of a zone, as a unit vector of the catalogue.
 Vector3f DireccionProfunda(const ZonaProfunda& z, const EstrellaProfunda& s);
+
+// False when no star of zone `z` can lie within `campo` radians of the unit
+// vector `eje` (both in the catalogue's frame): the zone is passed over.
+inline bool ZonaCerca(const ZonaProfunda& z, const double (&eje)[3], double campo) {
+    const double c = eje[0] * z.Centro.x + eje[1] * z.Centro.y + eje[2] * z.Centro.z;
+    return std::acos(c < -1 ? -1 : c > 1 ? 1 : c) - z.Radio <= campo;
+}
 
 }  // namespace vedrano

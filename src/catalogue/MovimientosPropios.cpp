@@ -7,7 +7,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "catalogue/TrampaCarga.h"
 
 namespace vedrano {

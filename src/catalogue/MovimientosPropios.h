@@ -9,7 +9,7 @@
 
 #include "astro/Coordenadas.h"
 #include "catalogue/Catalogos.h"
-#include "catalogue/Notificador.h"
+#include "app/base/Notificador.h"
 
 namespace vedrano {
 

@@ -47,7 +47,7 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
     idEstrellas_ = nuevasOpciones(estrellas->contenido(), {"Sin identificar", "C\xF3" "digo", "Nombre"},
                                   e.IdEstrellas);
     // Program preferences, not items of a configuration.
-    if (ctx.opciones) nuevaPreferencia(estrellas->contenido(), "Estrellas d\xE9" "biles", ctx.opciones->EstrellasDebiles);
+    if (ctx.preferenciasDibujo) nuevaPreferencia(estrellas->contenido(), "Estrellas d\xE9" "biles", e.Pref.EstrellasDebiles);
 
     auto* constelaciones = new Grupo("Constelaciones");
     nuevoSpin(constelaciones->contenido(), 33, e.NivelConstelaciones);
@@ -110,7 +110,7 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
     nuevaCasilla(referencias->contenido(), "A.R./DEC 15\xBA", s.ARDEC15);
     nuevaCasilla(referencias->contenido(), "A.R./DEC 30\xBA", s.ARDEC30);
     nuevaCasilla(referencias->contenido(), "Via L\xE1" "ctea", s.ViaLa);
-    if (ctx.opciones) nuevaPreferencia(referencias->contenido(), "Todos los r\xF3tulos", ctx.opciones->TodosLosRotulos);
+    if (ctx.preferenciasDibujo) nuevaPreferencia(referencias->contenido(), "Todos los r\xF3tulos", e.Pref.TodosLosRotulos);
 
     auto* columna1 = new QVBoxLayout;
     columna1->addWidget(estrellas);
@@ -188,10 +188,14 @@ Spin* Objetos::spin(int indice) const {
 void AbreObjetos(ContextoDialogo& ctx) {
     ctx.e.Cambiado = false;
     const auto antes = Ajustes(ctx.e);
+    const Preferencias preferencias = ctx.e.Pref;
     {
         Objetos d(ctx);
         MuestraCentrado(d, ctx.cielo);
     }
+    // The two switches are program preferences: the configuration is not
+    // changed by them.
+    GuardaPreferencias(ctx, preferencias, "Objetos");
     if (Ajustes(ctx.e) != antes) ctx.e.Cambiado = true;
     if (ctx.DibujaCielo) ctx.DibujaCielo();
 }

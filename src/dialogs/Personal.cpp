@@ -4,7 +4,7 @@
 #include <cmath>
 #include <tuple>
 
-#include "app/TablasControles.h"
+#include "app/base/TablasControles.h"
 #include "config/Preferencias.h"
 #include "ui/controles/Estilo.h"
 #include "ui/controles/Interruptor.h"
@@ -126,11 +126,8 @@ void AbrePersonal(ContextoDialogo& ctx) {
         Personal d(ctx);
         MuestraCentrado(d, ctx.cielo);
     }
-    if (ctx.e.Pref != preferencias) {
-        std::string error = EscribePreferencias(ctx.e.Pref, ctx.e.ArchivoPreferencias);
-        if (!error.empty()) ctx.mensajes.Mensaje(error, "Personalizar", 1, 1);
-    }
-    if (Ajustes(ctx.e) == antes && ctx.e.Pref == preferencias) return;
+    const bool otrasPreferencias = GuardaPreferencias(ctx, preferencias, "Personalizar");
+    if (Ajustes(ctx.e) == antes && !otrasPreferencias) return;
     ctx.e.Cambiado = true;
     // The hour format and precession reach the picture only through the
     // time refresh and the panel texts of the full update.

@@ -10,6 +10,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <string>
 #endif
 
 namespace vedrano::plataforma {
@@ -33,7 +34,7 @@ bool ArchivoMapeado::Abre(const std::string& ruta, std::string& error) {
     LARGE_INTEGER t;
     if (!GetFileSizeEx(f, &t) || t.QuadPart == 0) {
         CloseHandle(f);
-        error = "fichero vacío";
+        error = "está vacío o no es un fichero";
         return false;
     }
     HANDLE m = CreateFileMappingW(f, nullptr, PAGE_READONLY, 0, 0, nullptr);
@@ -62,24 +63,39 @@ void ArchivoMapeado::Cierra() {
 
 #else
 
+namespace {
+
+// The user reads Spanish; the system's own words only where no plain
+// reason fits.
+std::string MotivoSistema(int numero) {
+    switch (numero) {
+        case ENOENT: return "no existe";
+        case EACCES: return "no hay permiso para leerlo";
+        case EISDIR: return "es una carpeta";
+        default: return "no se puede abrir (" + std::string(std::strerror(numero)) + ")";
+    }
+}
+
+}  // namespace
+
 // POSIX: open, fstat and mmap; the descriptor is not needed once mapped.
 bool ArchivoMapeado::Abre(const std::string& ruta, std::string& error) {
     Cierra();
     int fd = ::open(ruta.c_str(), O_RDONLY | O_CLOEXEC);
     if (fd < 0) {
-        error = std::strerror(errno);
+        error = MotivoSistema(errno);
         return false;
     }
     struct stat st {};
     if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_size == 0) {
         ::close(fd);
-        error = "no es un fichero con datos";
+        error = "está vacío o no es un fichero";
         return false;
     }
     void* p = ::mmap(nullptr, static_cast<std::size_t>(st.st_size), PROT_READ, MAP_PRIVATE, fd, 0);
     ::close(fd);
     if (p == MAP_FAILED) {
-        error = std::strerror(errno);
+        error = "no se puede proyectar en memoria (" + std::string(std::strerror(errno)) + ")";
         return false;
     }
     datos_ = static_cast<const unsigned char*>(p);

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/Aritmetica.h"
+#include "app/base/Aritmetica.h"
 #include "catalogue/EstrellasProfundas.h"
 #include "sky/Plotters.h"
 
@@ -40,8 +40,7 @@ void DibujaEstrellasProfundas(Contexto& x) {
     float magnitudRecordada = -99;
     x.l.FijaColor(ColorVB(e.ColoresEstrellas[0]));
     for (const ZonaProfunda& z : cat->Zonas()) {
-        const double c = eje[0] * z.Centro.x + eje[1] * z.Centro.y + eje[2] * z.Centro.z;
-        if (std::acos(std::clamp(c, -1.0, 1.0)) - z.Radio > campo) continue;
+        if (!ZonaCerca(z, eje, campo)) continue;
         for (uint32_t i = z.Primera; i < z.Primera + z.Cuenta; ++i) {
             const EstrellaProfunda s = cat->Estrella(i);
             const float mag = s.Magnitud();

@@ -47,13 +47,27 @@ TEST(Preferencias, SinArchivoOConArchivoDanadoDanLosValoresPorDefecto) {
     EXPECT_FALSE(LeePreferencias((d / "b.ini").string()).PrecisionAlta);
     Escribe(d / "c.ini", "; PrecisionAlta=true\n# PrecisionAlta=true\n");
     EXPECT_FALSE(LeePreferencias((d / "c.ini").string()).PrecisionAlta);
+    // A damaged value of one key does not disturb the good ones around it.
+    Escribe(d / "d.ini", "EstrellasDebiles=tru\nTodosLosRotulos=1\nPrecisionAlta=true\xFF\n");
+    Preferencias p = LeePreferencias((d / "d.ini").string());
+    EXPECT_FALSE(p.EstrellasDebiles);
+    EXPECT_TRUE(p.TodosLosRotulos);
+    EXPECT_FALSE(p.PrecisionAlta);
 }
 
 TEST(Preferencias, EscribirYLeerDevuelveLoEscritoYUnFalloLoDice) {
     fs::path d = CarpetaPrueba("escritura");
     fs::path ruta = d / "vedrano" / "preferencias.ini";  // the folder is made
+    // Each key on its own survives being written and read back.
     Preferencias p;
-    p.PrecisionAlta = true;
+    for (bool Preferencias::*clave :
+         {&Preferencias::PrecisionAlta, &Preferencias::EstrellasDebiles, &Preferencias::TodosLosRotulos}) {
+        Preferencias una;
+        una.*clave = true;
+        EXPECT_EQ(EscribePreferencias(una, ruta.string()), "");
+        EXPECT_EQ(LeePreferencias(ruta.string()), una);
+    }
+    p.PrecisionAlta = p.TodosLosRotulos = true;
     EXPECT_EQ(EscribePreferencias(p, ruta.string()), "");
     EXPECT_EQ(LeePreferencias(ruta.string()), p);
     p.PrecisionAlta = false;

@@ -10,7 +10,7 @@
 #include "astro/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
 #include "catalogue/MovimientosPropios.h"
-#include "dialogs/ObjetivoBusqueda.h"
+#include "app/acciones/ObjetivoBusqueda.h"
 #include "sky/apunta/Apunta.h"
 #include "sky/proyeccion/Proyeccion.h"
 

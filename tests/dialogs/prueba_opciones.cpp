@@ -219,6 +219,36 @@ TEST_F(Opciones, PersonalGuardaLasPreferenciasDelPrograma) {
     EXPECT_NE(m.textos[0].find("No se han podido guardar las preferencias"), std::string::npos);
 }
 
+TEST_F(Opciones, ObjetosGuardaSusInterruptoresComoPreferenciasYNoComoConfiguracion) {
+    QTemporaryDir dir;
+    e.ArchivoPreferencias = dir.filePath("vedrano/preferencias.ini").toStdString();
+    {
+        Objetos sinVentana(*ctx);  // only the main window's picture has them
+        EXPECT_EQ(sinVentana.casilla(QString::fromUtf8("Estrellas débiles")), nullptr);
+    }
+    ctx->preferenciasDibujo = true;
+    CuandoAparezca<Objetos>([](Objetos& d) {
+        Pulsa(d.casilla(QString::fromUtf8("Estrellas débiles")));
+        Pulsa(d.casilla(QString::fromUtf8("Todos los rótulos")));
+        Pulsa(d.casilla(QString::fromUtf8("Todos los rótulos")));
+        Pulsa(d.botonSalir());
+    });
+    AbreObjetos(*ctx);
+    EXPECT_FALSE(e.Cambiado);  // nothing of the configuration changed
+    EXPECT_EQ(dibujos, 1);
+    EXPECT_TRUE(m.textos.empty());
+
+    // A new start reads them back, and the form shows them as they were left.
+    Estado otro;
+    otro.Pref = LeePreferencias(e.ArchivoPreferencias);
+    EXPECT_TRUE(otro.Pref.EstrellasDebiles);
+    EXPECT_FALSE(otro.Pref.TodosLosRotulos);
+    ContextoDialogo ctx2{otro, c, m, nullptr, {}, {}, {}, {}, {}, true};
+    Objetos d(ctx2);
+    EXPECT_TRUE(d.casilla(QString::fromUtf8("Estrellas débiles"))->marcada());
+    EXPECT_FALSE(d.casilla(QString::fromUtf8("Todos los rótulos"))->marcada());
+}
+
 class Configuraciones : public Opciones {
 protected:
     void SetUp() override {

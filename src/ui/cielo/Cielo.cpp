@@ -8,7 +8,7 @@
 #include <QScrollArea>
 #include <QShortcut>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "astro/TextosAngulo.h"
 #include "config/LeeConfiguracion.h"
 #include "platform/qt/PantallaQt.h"
@@ -60,7 +60,7 @@ Cielo::Cielo(Estado& e, const Catalogos& c, DialogosCielo dialogos)
       c_(c),
       dialogos_(std::move(dialogos)),
       mensajes_(e, this),
-      contexto_{e, c, mensajes_, this, {}, {}, {}, {}, {}, nullptr} {
+      contexto_{e, c, mensajes_, this, {}, {}, {}, {}, {}, true} {
     setWindowTitle("VEDRANO");
     setFont(controles::FuenteControles());
     contexto_.ActualizaCielo = [this] { ActualizaCielo(); };
@@ -89,7 +89,6 @@ Cielo::~Cielo() { e_.Sujecion = e_.Enganche = false; }
 
 void Cielo::Construye() {
     vista_ = new VistaCielo(e_, c_, mensajes_, this);
-    contexto_.opciones = &vista_->Opciones();
     vista_->setFocusPolicy(Qt::StrongFocus);
     vista_->setAccessibleName(QStringLiteral("Cielo"));
     connect(vista_, &VistaCielo::ObjetoPedido, this, &Cielo::InformaObjeto);

@@ -8,8 +8,8 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
-#include "app/ErrorEjecucion.h"
-#include "app/Texto1252.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 #include "platform/qt/Cursores.h"
 #include "sky/DibujaCielo.h"
 
@@ -36,6 +36,8 @@ void VistaCielo::DibujaCielo() {
 }
 
 const OpcionesDibujo& VistaCielo::PreparaOpciones() {
+    opciones_.TodosLosRotulos = e_.Pref.TodosLosRotulos;
+    opciones_.EstrellasDebiles = e_.Pref.EstrellasDebiles;
     if (opciones_.EstrellasDebiles && !profundasProbadas_) {
         // Mapped, not read: opening costs only the file's zone table.
         profundasProbadas_ = true;

@@ -8,8 +8,8 @@
 #include <functional>
 #include <string>
 
-#include "app/Estado.h"
-#include "app/InterfazMensajes.h"
+#include "app/estado/Estado.h"
+#include "app/base/InterfazMensajes.h"
 #include "catalogue/Catalogos.h"
 #include "catalogue/EstrellasProfundas.h"
 #include "sky/Lienzo.h"
@@ -29,8 +29,6 @@ public:
     // The pass alone, with the values already set.
     void DibujaCielo();
     const Lienzo& Canvas() const { return lienzo_; }
-    // The program preferences the picture is drawn with.
-    OpcionesDibujo& Opciones() { return opciones_; }
     // Screen pixel to the picture's user scale.
     QPointF AUsuario(const QPointF& pixel) const;
     // The object drawn under a pixel (within a few pixels).
@@ -55,7 +53,8 @@ protected:
 private:
     void DibujaMarca(const QPointF& pixel);
     void Protegido(const std::function<void()>& pasada);
-    // Opens the deep star catalogue the first time the layer is asked for.
+    // The picture's program preferences; opens the deep star catalogue the
+    // first time the layer is asked for.
     const OpcionesDibujo& PreparaOpciones();
     void InformaCursor(const QPointF& pixel);
     // The view turned or zoomed by the mouse: redraw and tell the panels.

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/ContextoDialogo.h"
+#include "dialogs/piezas/ContextoDialogo.h"
 #include "ui/controles/ControlDibujado.h"
 
 class QBoxLayout;
@@ -105,5 +105,10 @@ private:
     controles::BotonDialogo* salir_;
     controles::BotonDialogo* ayuda_;
 };
+
+// After a form: when the program preferences differ from `antes`, writes
+// them to the settings file (telling the user, under `tituloCp1252`, when
+// it cannot) and returns true.
+bool GuardaPreferencias(ContextoDialogo& ctx, const Preferencias& antes, const std::string& tituloCp1252);
 
 }  // namespace vedrano

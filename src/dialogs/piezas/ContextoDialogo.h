@@ -6,11 +6,10 @@
 #include <QWidget>
 #include <functional>
 
-#include "app/Estado.h"
-#include "app/InterfazMensajes.h"
+#include "app/estado/Estado.h"
+#include "app/base/InterfazMensajes.h"
 #include "catalogue/Catalogos.h"
 #include "platform/qt/PantallaQt.h"
-#include "sky/OpcionesDibujo.h"
 
 namespace vedrano {
 
@@ -24,7 +23,7 @@ struct ContextoDialogo {
     std::function<void(int)> Ayuda;            // opens the help at a topic number
     std::function<void()> ArrancaTiempoReal;   // the main window's real-time clock on
     std::function<void()> ParaTiempoReal;      // and off
-    OpcionesDibujo* opciones = nullptr;        // program preferences of the picture (none: not offered)
+    bool preferenciasDibujo = false;           // the picture's program preferences are offered (the window does)
 };
 
 // Sizes a dialog and centres it on the main window, within the screen.

@@ -1,4 +1,4 @@
-#include "dialogs/MarcoOpciones.h"
+#include "dialogs/piezas/MarcoOpciones.h"
 
 #include <QBoxLayout>
 #include <QFontMetrics>
@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "config/Preferencias.h"
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/Estilo.h"
 
@@ -126,6 +127,13 @@ void MarcoOpciones::keyPressEvent(QKeyEvent* ev) {
 void MarcoOpciones::paintEvent(QPaintEvent*) {
     QPainter p(this);
     DibujaForma(p, rect(), titulo_, ALTO_TITULO, 6);
+}
+
+bool GuardaPreferencias(ContextoDialogo& ctx, const Preferencias& antes, const std::string& tituloCp1252) {
+    if (ctx.e.Pref == antes) return false;
+    std::string error = EscribePreferencias(ctx.e.Pref, ctx.e.ArchivoPreferencias);
+    if (!error.empty()) ctx.mensajes.Mensaje(error, tituloCp1252, 1, 1);
+    return true;
 }
 
 }  // namespace vedrano
