@@ -125,17 +125,28 @@ private:
     struct HashFigura {
         std::size_t operator()(const ClaveFigura& k) const;
     };
-    struct Estampa {
-        QImage imagen;
-        int dx = 0, dy = 0;  // offset of the image from the anchor pixel
+    // A ready-made image kept as the runs of its pixels that are not
+    // transparent, so that stamping it skips the empty margins and glyph
+    // gaps and copies the opaque runs whole.
+    struct Tramo {
+        int16_t y, x, n;
+        bool opaco;
+        uint32_t desde;  // index of its first pixel in `pixeles`
     };
+    struct Estampa {
+        int dx = 0, dy = 0;  // offset of the image from the anchor pixel
+        int ancho = 0, alto = 0;
+        std::vector<Tramo> tramos;
+        std::vector<QRgb> pixeles;  // premultiplied
+    };
+    static Estampa Compacta(const QImage& imagen, int dx, int dy);
     ClavePluma Clave() const { return {tinta_.rgba(), anchoTrazo_, estilo_}; }
     QColor Tono(const QColor& c) const { return paraTinta_ ? ColorParaTinta(c) : c; }
     void PreparaPintor();
     void PonPluma(const ClavePluma& k) const;
     bool FueraDeImagen(const QPointF& a, const QPointF& b, double margen) const;
-    void Estampa1(const QImage& s, int x, int y);
-    const QImage& SpritePunto(int ancho, QRgb color);
+    void Estampa1(const Estampa& s, int x, int y);
+    const Estampa& SpritePunto(int ancho, QRgb color);
     const Estampa* SpriteFigura(const QPointF& c, double rx, double ry, double inicio, double fin, bool arco,
                                 bool caja);
     const Estampa& ImagenRotulo(std::string_view texto, QRgb color, int fase);
@@ -145,6 +156,7 @@ private:
     QImage imagen_;
     uchar* pixeles_ = nullptr;
     qsizetype linea_ = 0;
+    int anchoImagen_ = 0, altoImagen_ = 0;  // device pixels
     std::unique_ptr<QPainter> propio_;
     QPainter* pintor_ = nullptr;  // propio_, or the device's painter
     bool vectorial_ = false, paraTinta_ = false;
@@ -166,9 +178,10 @@ private:
     mutable ClavePluma clavePuesta_{0, 0, -1};
     mutable std::unordered_map<uint64_t, QPen> plumas_;
 
-    std::unordered_map<uint64_t, QImage> puntos_;
+    std::unordered_map<uint64_t, Estampa> puntos_;
     std::unordered_map<ClaveFigura, Estampa, HashFigura> figuras_;
     std::unordered_map<std::string, Estampa> textos_;
+    std::string claveTexto_;
     double ascenso_ = 0, altoLinea_ = 0;
     RotulosPasada rotulos_;
 };
