@@ -4,7 +4,7 @@
 #include <random>
 #include <vector>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "astro/Calendario.h"
 #include "astro/Coordenadas.h"
 #include "astro/Precesion.h"

@@ -11,7 +11,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "astro/Coordenadas.h"
 #include "astro/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"

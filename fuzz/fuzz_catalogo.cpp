@@ -12,7 +12,7 @@
 
 #include <unistd.h>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 #include "catalogue/CargaCatalogos.h"
 #include "fuzz/Objetivo.h"
 #include "sky/DibujaCielo.h"

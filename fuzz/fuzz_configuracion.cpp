@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 #include "config/EscribeConfiguracion.h"
 #include "config/LeeConfiguracion.h"
 #include "fuzz/Objetivo.h"

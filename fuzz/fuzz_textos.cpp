@@ -6,12 +6,12 @@
 #include <string>
 #include <string_view>
 
-#include "app/Aritmetica.h"
-#include "app/ErrorEjecucion.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/ErrorEjecucion.h"
 #include "astro/Calendario.h"
 #include "astro/TextosAngulo.h"
-#include "dialogs/CampoAngulo.h"
-#include "dialogs/HoraReglas.h"
+#include "dialogs/piezas/CampoAngulo.h"
+#include "app/acciones/HoraReglas.h"
 #include "fuzz/Objetivo.h"
 
 using namespace vedrano;

@@ -1,9 +1,9 @@
 #include "astro/Calendario.h"
 
-#include "app/Aritmetica.h"
-#include "app/Formato.h"
-#include "app/TablasFijas.h"
-#include "app/Texto1252.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/Formato.h"
+#include "app/base/TablasFijas.h"
+#include "app/base/Texto1252.h"
 
 namespace vedrano {
 

@@ -3,7 +3,7 @@
 // pole of the system, z toward the origin of a, a increasing toward -x).
 #pragma once
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 
 namespace vedrano {
 

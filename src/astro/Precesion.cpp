@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "astro/PrecisionAlta.h"
 
 namespace vedrano {

@@ -1,7 +1,7 @@
 // Precession of catalogue directions from the catalogue epoch to the date.
 #pragma once
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "astro/Coordenadas.h"
 
 namespace vedrano {

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "app/Aritmetica.h"
-#include "app/Constantes.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/Constantes.h"
 #include "astro/Coordenadas.h"
 
 namespace vedrano {

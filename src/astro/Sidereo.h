@@ -1,7 +1,7 @@
 // Local sidereal time and the Sun's place from the Earth's orbit record.
 #pragma once
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "catalogue/TablaPlanetas.h"
 
 namespace vedrano {

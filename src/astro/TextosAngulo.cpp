@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-#include "app/Aritmetica.h"
-#include "app/Constantes.h"
-#include "app/Formato.h"
-#include "app/Texto1252.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/Constantes.h"
+#include "app/base/Formato.h"
+#include "app/base/Texto1252.h"
 
 namespace vedrano {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 
 namespace vedrano {
 

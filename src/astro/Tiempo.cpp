@@ -1,8 +1,8 @@
 #include "astro/Tiempo.h"
 
-#include "app/Aritmetica.h"
-#include "app/Formato.h"
-#include "app/TablasFijas.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/Formato.h"
+#include "app/base/TablasFijas.h"
 #include "astro/Calendario.h"
 #include "astro/Precesion.h"
 #include "astro/PrecisionAlta.h"

@@ -2,7 +2,7 @@
 // animation and real-time motion, the clock, and the date and time texts.
 #pragma once
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "catalogue/TablaPlanetas.h"
 
 namespace vedrano {

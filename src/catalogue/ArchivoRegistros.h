@@ -7,7 +7,7 @@
 #include <span>
 #include <string>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 #include "catalogue/DecodificaRegistros.h"
 
 namespace vedrano {

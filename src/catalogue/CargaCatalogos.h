@@ -7,7 +7,7 @@
 #include <string>
 
 #include "catalogue/Catalogos.h"
-#include "catalogue/Notificador.h"
+#include "app/base/Notificador.h"
 
 namespace vedrano {
 

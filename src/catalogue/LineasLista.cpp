@@ -6,8 +6,8 @@
 #include <tuple>
 #include <initializer_list>
 
-#include "app/ErrorEjecucion.h"
-#include "app/Formato.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Formato.h"
 #include "astro/TextosAngulo.h"
 
 namespace vedrano {

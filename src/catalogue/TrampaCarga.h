@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "app/ErrorEjecucion.h"
-#include "catalogue/Notificador.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Notificador.h"
 
 namespace vedrano {
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <iostream>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "platform/CarpetaPrograma.h"
 
 namespace vedrano {

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "catalogue/Notificador.h"
+#include "app/base/Notificador.h"
 
 namespace vedrano {
 

@@ -12,8 +12,8 @@
 #include <string_view>
 #include <vector>
 
-#include "app/ErrorEjecucion.h"
-#include "app/Texto1252.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 #include "astro/PrecisionAlta.h"
 #include "astro/Calendario.h"
 #include "astro/Coordenadas.h"

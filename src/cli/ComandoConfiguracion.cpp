@@ -5,8 +5,8 @@
 #include <iostream>
 #include <string>
 
-#include "app/ErrorEjecucion.h"
-#include "app/Texto1252.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 #include "cli/CarpetaDatos.h"
 #include "cli/MuestrasConfiguracion.h"
 #include "config/EscribeConfiguracion.h"

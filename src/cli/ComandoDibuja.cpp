@@ -11,7 +11,7 @@
 #include <iostream>
 #include <string>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "catalogue/CargaCatalogos.h"
 #include "catalogue/EstrellasProfundas.h"
 #include "cli/CarpetaDatos.h"

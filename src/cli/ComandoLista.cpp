@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "catalogue/CargaCatalogos.h"
 #include "catalogue/CategoriasLista.h"
 #include "cli/CarpetaDatos.h"

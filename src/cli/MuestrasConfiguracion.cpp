@@ -10,9 +10,9 @@
 #include <ostream>
 #include <vector>
 
-#include "app/Constantes.h"
-#include "app/ErrorEjecucion.h"
-#include "app/Texto1252.h"
+#include "app/base/Constantes.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 #include "astro/Calendario.h"
 #include "astro/Coordenadas.h"
 #include "astro/Planetas.h"

@@ -1,7 +1,7 @@
 // vedrano-cli: the planetarium's core from the command line.
 #include <iostream>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 #include "cli/Argumentos.h"
 #include "cli/ComandoCalcula.h"
 #include "cli/ComandoConfiguracion.h"

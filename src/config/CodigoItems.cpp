@@ -6,8 +6,8 @@
 #include <cstdlib>
 #include <system_error>
 
-#include "app/Aritmetica.h"
-#include "app/ErrorEjecucion.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/ErrorEjecucion.h"
 
 namespace vedrano {
 

@@ -2,8 +2,8 @@
 
 #include <cerrno>
 
-#include "app/ErrorEjecucion.h"
-#include "app/Texto1252.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 
 namespace vedrano {
 

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <type_traits>
 
-#include "app/ErrorEjecucion.h"
-#include "app/Texto1252.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 #include "config/CodigoItems.h"
 #include "config/ErroresArchivo.h"
 #include "config/EscrituraSegura.h"

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "app/InterfazMensajes.h"
+#include "app/base/InterfazMensajes.h"
 
 namespace vedrano {
 

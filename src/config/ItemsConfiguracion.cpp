@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "app/TablasControles.h"
+#include "app/base/TablasControles.h"
 #include "catalogue/Catalogos.h"
 
 namespace vedrano {

@@ -10,7 +10,7 @@
 #include <string>
 #include <variant>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 
 namespace vedrano {
 

@@ -6,8 +6,8 @@
 #include <type_traits>
 #include <vector>
 
-#include "app/ErrorEjecucion.h"
-#include "app/Texto1252.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 #include "config/CodigoItems.h"
 #include "config/ErroresArchivo.h"
 #include "config/ItemsConfiguracion.h"

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "config/InterfazConfiguracion.h"
 
 namespace vedrano {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "config/EscrituraSegura.h"
 #include "platform/CarpetaConfiguracion.h"
 

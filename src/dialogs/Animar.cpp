@@ -1,12 +1,12 @@
 #include "dialogs/Animar.h"
-#include "dialogs/Ayuda.h"
+#include "dialogs/piezas/Ayuda.h"
 
 #include <QBoxLayout>
 #include <algorithm>
 #include <optional>
 
-#include "app/Aritmetica.h"
-#include "app/TablasFijas.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/TablasFijas.h"
 #include "astro/Tiempo.h"
 #include "platform/Reloj.h"
 #include "ui/controles/Interruptor.h"

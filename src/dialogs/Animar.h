@@ -6,7 +6,7 @@
 #include <array>
 #include <functional>
 
-#include "dialogs/MarcoOpciones.h"
+#include "dialogs/piezas/MarcoOpciones.h"
 
 namespace vedrano {
 

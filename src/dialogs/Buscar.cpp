@@ -1,5 +1,5 @@
 #include "dialogs/Buscar.h"
-#include "dialogs/Ayuda.h"
+#include "dialogs/piezas/Ayuda.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -11,14 +11,14 @@
 #include <QListWidget>
 #include <QVBoxLayout>
 
-#include "app/ErrorEjecucion.h"
-#include "app/Texto1252.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 #include "catalogue/CategoriasLista.h"
 #include "catalogue/LineasLista.h"
-#include "dialogs/FiltroLista.h"
-#include "dialogs/Mensajes.h"
-#include "dialogs/ObjetivoBusqueda.h"
-#include "dialogs/PiezasForma.h"
+#include "dialogs/piezas/FiltroLista.h"
+#include "dialogs/piezas/Mensajes.h"
+#include "app/acciones/ObjetivoBusqueda.h"
+#include "dialogs/piezas/PiezasForma.h"
 #include "dialogs/TextosBuscar.h"
 #include "platform/qt/PantallaQt.h"
 #include "sky/apunta/Apunta.h"

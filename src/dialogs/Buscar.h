@@ -6,7 +6,7 @@
 #include <QDialog>
 #include <array>
 
-#include "dialogs/ContextoDialogo.h"
+#include "dialogs/piezas/ContextoDialogo.h"
 
 class QLabel;
 class QLineEdit;

@@ -8,7 +8,7 @@
 #include <QTimer>
 #include <algorithm>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "platform/Pausa.h"
 #include "ui/controles/Estilo.h"
 

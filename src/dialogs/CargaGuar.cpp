@@ -7,7 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "config/EscribeConfiguracion.h"
 #include "config/LeeConfiguracion.h"
 #include "ui/controles/Estilo.h"

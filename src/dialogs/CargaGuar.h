@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/MarcoOpciones.h"
+#include "dialogs/piezas/MarcoOpciones.h"
 
 class QListWidget;
 class QLineEdit;

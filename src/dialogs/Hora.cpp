@@ -1,14 +1,14 @@
 #include "dialogs/Hora.h"
-#include "dialogs/Ayuda.h"
+#include "dialogs/piezas/Ayuda.h"
 
 #include <QBoxLayout>
 #include <QLineEdit>
 
-#include "app/Aritmetica.h"
-#include "app/Texto1252.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/Texto1252.h"
 #include "astro/Calendario.h"
 #include "astro/Tiempo.h"
-#include "dialogs/HoraReglas.h"
+#include "app/acciones/HoraReglas.h"
 #include "platform/Reloj.h"
 #include "ui/controles/Estilo.h"
 #include "ui/controles/Interruptor.h"

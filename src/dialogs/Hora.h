@@ -7,7 +7,7 @@
 #include <functional>
 #include <vector>
 
-#include "dialogs/MarcoOpciones.h"
+#include "dialogs/piezas/MarcoOpciones.h"
 
 class QLineEdit;
 

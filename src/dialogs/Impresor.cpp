@@ -1,5 +1,5 @@
 #include "dialogs/Impresor.h"
-#include "dialogs/Ayuda.h"
+#include "dialogs/piezas/Ayuda.h"
 
 #include <QDir>
 #include <QGridLayout>
@@ -9,9 +9,9 @@
 #include <QPrinterInfo>
 #include <QVBoxLayout>
 
-#include "app/Texto1252.h"
-#include "dialogs/Mensajes.h"
-#include "dialogs/PiezasForma.h"
+#include "app/base/Texto1252.h"
+#include "dialogs/piezas/Mensajes.h"
+#include "dialogs/piezas/PiezasForma.h"
 #include "sky/PaginaImpresa.h"
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/Estilo.h"

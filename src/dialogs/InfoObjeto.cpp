@@ -3,8 +3,8 @@
 #include <QBoxLayout>
 #include <QLabel>
 
-#include "dialogs/Ayuda.h"
-#include "dialogs/PiezasForma.h"
+#include "dialogs/piezas/Ayuda.h"
+#include "dialogs/piezas/PiezasForma.h"
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/Estilo.h"
 

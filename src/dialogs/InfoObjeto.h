@@ -6,7 +6,7 @@
 #include <QDialog>
 #include <QStringList>
 
-#include "dialogs/ContextoDialogo.h"
+#include "dialogs/piezas/ContextoDialogo.h"
 #include "sky/apunta/ObjetoBajo.h"
 
 namespace vedrano {

@@ -1,5 +1,5 @@
 #include "dialogs/Locali.h"
-#include "dialogs/Ayuda.h"
+#include "dialogs/piezas/Ayuda.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -10,16 +10,16 @@
 #include <QVBoxLayout>
 #include <cmath>
 
-#include "app/Constantes.h"
-#include "app/Formato.h"
-#include "app/Texto1252.h"
+#include "app/base/Constantes.h"
+#include "app/base/Formato.h"
+#include "app/base/Texto1252.h"
 #include "astro/TextosAngulo.h"
 #include "astro/Tiempo.h"
-#include "dialogs/CampoAngulo.h"
-#include "dialogs/FiltroLista.h"
-#include "dialogs/LugarElegido.h"
+#include "dialogs/piezas/CampoAngulo.h"
+#include "dialogs/piezas/FiltroLista.h"
+#include "app/acciones/LugarElegido.h"
 #include "dialogs/MapaMundi.h"
-#include "dialogs/PiezasForma.h"
+#include "dialogs/piezas/PiezasForma.h"
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/Estilo.h"
 

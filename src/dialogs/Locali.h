@@ -5,7 +5,7 @@
 #pragma once
 #include <QDialog>
 
-#include "dialogs/ContextoDialogo.h"
+#include "dialogs/piezas/ContextoDialogo.h"
 
 class QLineEdit;
 class QListWidget;

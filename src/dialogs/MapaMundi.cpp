@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "ui/controles/ControlDibujado.h"
 #include "ui/controles/Estilo.h"
 

@@ -6,7 +6,7 @@
 #include <QWidget>
 #include <vector>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "catalogue/Catalogos.h"
 
 namespace vedrano {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/MarcoOpciones.h"
+#include "dialogs/piezas/MarcoOpciones.h"
 
 namespace vedrano {
 

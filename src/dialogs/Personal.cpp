@@ -4,7 +4,7 @@
 #include <cmath>
 #include <tuple>
 
-#include "app/TablasControles.h"
+#include "app/base/TablasControles.h"
 #include "config/Preferencias.h"
 #include "ui/controles/Estilo.h"
 #include "ui/controles/Interruptor.h"

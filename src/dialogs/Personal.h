@@ -5,7 +5,7 @@
 #pragma once
 #include <map>
 
-#include "dialogs/MarcoOpciones.h"
+#include "dialogs/piezas/MarcoOpciones.h"
 
 namespace vedrano {
 

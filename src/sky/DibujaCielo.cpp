@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "app/Formato.h"
+#include "app/base/Formato.h"
 #include "astro/Planetas.h"
 #include "astro/TextosAngulo.h"
 #include "astro/Tiempo.h"

@@ -2,7 +2,7 @@
 // the full update that recomputes time, scale and view before it.
 #pragma once
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "catalogue/Catalogos.h"
 #include "sky/Lienzo.h"
 #include "sky/OpcionesDibujo.h"

@@ -4,7 +4,7 @@
 #include <QStaticText>
 #include <cmath>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 
 namespace vedrano {
 

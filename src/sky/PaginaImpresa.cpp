@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "astro/TextosAngulo.h"
 #include "config/EscrituraSegura.h"
 #include "sky/DibujaCielo.h"

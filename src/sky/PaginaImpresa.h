@@ -6,7 +6,7 @@
 #include <QImage>
 #include <QString>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "catalogue/Catalogos.h"
 
 class QPagedPaintDevice;

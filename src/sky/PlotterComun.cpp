@@ -1,4 +1,4 @@
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 #include "sky/Plotters.h"
 
 namespace vedrano {

@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "app/Aritmetica.h"
+#include "app/base/Aritmetica.h"
 #include "sky/Plotters.h"
 
 namespace vedrano {

@@ -2,9 +2,9 @@
 #include <array>
 #include <cmath>
 
-#include "app/Aritmetica.h"
-#include "app/Constantes.h"
-#include "app/Texto1252.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/Constantes.h"
+#include "app/base/Texto1252.h"
 #include "astro/Planetas.h"
 #include "sky/Plotters.h"
 #include "sky/proyeccion/SistemaSolar.h"

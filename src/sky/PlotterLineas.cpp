@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "app/Constantes.h"
-#include "app/Texto1252.h"
+#include "app/base/Constantes.h"
+#include "app/base/Texto1252.h"
 #include "astro/Coordenadas.h"
 #include "sky/Plotters.h"
 

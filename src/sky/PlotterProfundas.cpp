@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/Aritmetica.h"
+#include "app/base/Aritmetica.h"
 #include "catalogue/EstrellasProfundas.h"
 #include "sky/Plotters.h"
 

@@ -1,6 +1,6 @@
 // Deep-sky categories: galaxies, nebulae, clusters, and the pulsars,
 // quasars and black holes, all on one scheme.
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "sky/Plotters.h"
 
 namespace vedrano {

@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "astro/Coordenadas.h"
 #include "sky/Plotters.h"
 

@@ -5,7 +5,7 @@
 #pragma once
 #include <cstdint>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "catalogue/Catalogos.h"
 #include "sky/Lienzo.h"
 #include "sky/OpcionesDibujo.h"

@@ -5,8 +5,8 @@
 #include <fstream>
 #include <vector>
 
-#include "app/Arranque.h"
-#include "app/Texto1252.h"
+#include "app/acciones/Arranque.h"
+#include "app/base/Texto1252.h"
 
 using namespace vedrano;
 namespace fs = std::filesystem;

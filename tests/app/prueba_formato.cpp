@@ -1,9 +1,9 @@
 // Format pictures and the run-time's numeric rules.
 #include <gtest/gtest.h>
 
-#include "app/Aritmetica.h"
-#include "app/Formato.h"
-#include "app/Texto1252.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/Formato.h"
+#include "app/base/Texto1252.h"
 
 using namespace vedrano;
 

@@ -4,9 +4,9 @@
 
 #include <cmath>
 
-#include "app/ErrorEjecucion.h"
-#include "app/Formato.h"
-#include "app/TablasControles.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Formato.h"
+#include "app/base/TablasControles.h"
 
 using namespace vedrano;
 

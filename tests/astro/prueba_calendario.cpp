@@ -7,7 +7,7 @@
 #include <random>
 #include <sstream>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 #include "astro/Calendario.h"
 #include "astro/Tiempo.h"
 

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <random>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 #include "astro/Coordenadas.h"
 #include "sky/proyeccion/Proyeccion.h"
 

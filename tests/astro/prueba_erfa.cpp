@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "astro/Coordenadas.h"
 #include "astro/Planetas.h"
 #include "astro/Precesion.h"

@@ -10,7 +10,7 @@
 #include <cstdio>
 #include <string>
 
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "catalogue/TablaPlanetas.h"
 #include "sky/apunta/DiaObjeto.h"
 

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <random>
 
-#include "app/ErrorEjecucion.h"
-#include "app/Texto1252.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 #include "astro/TextosAngulo.h"
 
 using namespace vedrano;

@@ -11,7 +11,7 @@
 
 #include <unistd.h>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 #include "astro/Coordenadas.h"
 #include "catalogue/CargaCatalogos.h"
 #include "sky/DibujaCielo.h"

@@ -7,7 +7,7 @@
 #include <limits>
 #include <random>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 #include "config/CodigoItems.h"
 
 using namespace vedrano;

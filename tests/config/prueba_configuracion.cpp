@@ -8,7 +8,7 @@
 #include <random>
 #include <sstream>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "config/EscribeConfiguracion.h"
 #include "config/ItemsConfiguracion.h"
 #include "config/LeeConfiguracion.h"

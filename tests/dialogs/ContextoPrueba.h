@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "astro/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
-#include "dialogs/ContextoDialogo.h"
+#include "dialogs/piezas/ContextoDialogo.h"
 #include "sky/DibujaCielo.h"
 
 namespace pruebas {

@@ -9,7 +9,7 @@
 
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
-#include "app/TablasFijas.h"
+#include "app/base/TablasFijas.h"
 #include "dialogs/Animar.h"
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/Interruptor.h"

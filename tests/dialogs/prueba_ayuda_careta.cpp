@@ -10,7 +10,7 @@
 
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
-#include "dialogs/Ayuda.h"
+#include "dialogs/piezas/Ayuda.h"
 #include "dialogs/Careta.h"
 #include "ui/controles/BotonDialogo.h"
 

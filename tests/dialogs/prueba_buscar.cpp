@@ -12,7 +12,7 @@
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "ContextoPrueba.h"
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "astro/Coordenadas.h"
 #include "astro/Planetas.h"
 #include "astro/Sidereo.h"

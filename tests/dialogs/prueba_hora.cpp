@@ -13,10 +13,10 @@
 
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "astro/Calendario.h"
 #include "dialogs/Hora.h"
-#include "dialogs/HoraReglas.h"
+#include "app/acciones/HoraReglas.h"
 #include "ui/controles/Interruptor.h"
 #include "ui/controles/Pulsador.h"
 #include "ui/controles/Spin.h"

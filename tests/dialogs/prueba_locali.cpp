@@ -10,7 +10,7 @@
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "ContextoPrueba.h"
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "astro/TextosAngulo.h"
 #include "dialogs/Locali.h"
 #include "dialogs/MapaMundi.h"

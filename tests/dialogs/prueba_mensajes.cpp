@@ -12,8 +12,8 @@
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "dialogs/Careta.h"
-#include "dialogs/Mensajes.h"
-#include "dialogs/MensajesVentana.h"
+#include "dialogs/piezas/Mensajes.h"
+#include "dialogs/piezas/MensajesVentana.h"
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/Pulsador.h"
 

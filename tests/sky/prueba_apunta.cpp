@@ -4,7 +4,7 @@
 #include <cmath>
 #include <filesystem>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "astro/Coordenadas.h"
 #include "astro/Tiempo.h"
 #include "catalogue/TablaPlanetas.h"

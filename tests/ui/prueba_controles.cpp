@@ -9,7 +9,7 @@
 
 #include "EntornoQt.h"
 #include "Falsos.h"
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 #include "platform/Pausa.h"
 #include "platform/Sonido.h"
 #include "ui/controles/Estilo.h"

@@ -17,7 +17,7 @@
 #include "../dialogs/ContextoPrueba.h"
 #include "EntornoQt.h"
 #include "Falsos.h"
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "dialogs/Animar.h"
 #include "dialogs/Buscar.h"
 #include "dialogs/CargaGuar.h"

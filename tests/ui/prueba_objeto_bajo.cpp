@@ -9,7 +9,7 @@
 #include "../dialogs/ContextoPrueba.h"
 #include "EntornoQt.h"
 #include "Falsos.h"
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "dialogs/InfoObjeto.h"
 #include "sky/apunta/ObjetoBajo.h"
 #include "sky/proyeccion/Proyeccion.h"

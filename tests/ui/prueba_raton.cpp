@@ -9,7 +9,7 @@
 #include "EntornoQt.h"
 #include "CatalogosPrueba.h"
 #include "Falsos.h"
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "catalogue/CargaCatalogos.h"
 #include "sky/apunta/Apunta.h"
 #include "ui/cielo/Cielo.h"

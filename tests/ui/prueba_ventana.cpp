@@ -21,7 +21,7 @@
 #include "dialogs/CargaGuar.h"
 #include "dialogs/Hora.h"
 #include "dialogs/Locali.h"
-#include "dialogs/Mensajes.h"
+#include "dialogs/piezas/Mensajes.h"
 #include "dialogs/Objetos.h"
 #include "dialogs/Personal.h"
 #include "sky/DibujaCielo.h"

@@ -1,7 +1,7 @@
 #include "app/gui/Dialogos.h"
 
 #include "dialogs/Animar.h"
-#include "dialogs/Ayuda.h"
+#include "dialogs/piezas/Ayuda.h"
 #include "dialogs/Buscar.h"
 #include "dialogs/Careta.h"
 #include "dialogs/CargaGuar.h"
@@ -9,7 +9,7 @@
 #include "dialogs/Impresor.h"
 #include "dialogs/InfoObjeto.h"
 #include "dialogs/Locali.h"
-#include "dialogs/Mensajes.h"
+#include "dialogs/piezas/Mensajes.h"
 #include "dialogs/Objetos.h"
 #include "dialogs/Personal.h"
 

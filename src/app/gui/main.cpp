@@ -9,16 +9,16 @@
 #include <filesystem>
 #include <iostream>
 
-#include "app/Arranque.h"
-#include "app/ErrorEjecucion.h"
-#include "app/Texto1252.h"
+#include "app/acciones/Arranque.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 #include "catalogue/CargaCatalogos.h"
 #include "cli/Argumentos.h"
 #include "config/EscrituraSegura.h"
 #include "config/LeeConfiguracion.h"
 #include "config/Preferencias.h"
-#include "dialogs/Mensajes.h"
-#include "dialogs/MensajesVentana.h"
+#include "dialogs/piezas/Mensajes.h"
+#include "dialogs/piezas/MensajesVentana.h"
 #include "platform/CarpetaPrograma.h"
 #include "platform/qt/Idioma.h"
 #include "platform/qt/PantallaQt.h"

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/Constantes.h"
-#include "app/Texto1252.h"
+#include "app/base/Constantes.h"
+#include "app/base/Texto1252.h"
 #include "astro/TextosAngulo.h"
 #include "astro/Tiempo.h"
 #include "config/EscribeConfiguracion.h"

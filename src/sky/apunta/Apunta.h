@@ -3,8 +3,8 @@
 #pragma once
 #include <string>
 
-#include "app/Estado.h"
-#include "app/InterfazMensajes.h"
+#include "app/estado/Estado.h"
+#include "app/base/InterfazMensajes.h"
 #include "catalogue/TablaPlanetas.h"
 
 namespace vedrano {

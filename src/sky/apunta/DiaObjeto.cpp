@@ -3,7 +3,7 @@
 #include <cmath>
 #include <cstdio>
 
-#include "app/Aritmetica.h"
+#include "app/base/Aritmetica.h"
 #include "astro/Coordenadas.h"
 #include "astro/Precesion.h"
 #include "astro/TextosAngulo.h"

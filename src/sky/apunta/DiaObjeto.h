@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "astro/OrtoOcaso.h"
 #include "catalogue/Catalogos.h"
 

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <cstdio>
 
-#include "app/Aritmetica.h"
-#include "app/Constantes.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/Constantes.h"
 #include "astro/Coordenadas.h"
 #include "astro/Precesion.h"
 #include "astro/TextosAngulo.h"

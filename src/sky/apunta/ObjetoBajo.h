@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "catalogue/Catalogos.h"
 #include "sky/apunta/DiaObjeto.h"
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/Aritmetica.h"
-#include "app/Constantes.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/Constantes.h"
 #include "astro/Precesion.h"
 #include "astro/PrecisionAlta.h"
 

@@ -5,7 +5,7 @@
 // 90 degrees from it, negative behind the observer).
 #pragma once
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "astro/Coordenadas.h"
 
 namespace vedrano {

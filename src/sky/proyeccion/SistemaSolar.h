@@ -3,7 +3,7 @@
 #pragma once
 #include <cstdint>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "catalogue/TablaPlanetas.h"
 
 namespace vedrano {

@@ -8,7 +8,7 @@
 #include <QScrollArea>
 #include <QShortcut>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "astro/TextosAngulo.h"
 #include "config/LeeConfiguracion.h"
 #include "platform/qt/PantallaQt.h"

@@ -9,10 +9,10 @@
 #include <array>
 #include <functional>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "catalogue/Catalogos.h"
-#include "dialogs/ContextoDialogo.h"
-#include "dialogs/MensajesVentana.h"
+#include "dialogs/piezas/ContextoDialogo.h"
+#include "dialogs/piezas/MensajesVentana.h"
 #include "sky/apunta/ObjetoBajo.h"
 
 class QScrollArea;

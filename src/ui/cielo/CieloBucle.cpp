@@ -1,7 +1,7 @@
 // The main window's repeat loops: the five arrow pairs and the real-time
 // clock.
-#include "app/Constantes.h"
-#include "app/Texto1252.h"
+#include "app/base/Constantes.h"
+#include "app/base/Texto1252.h"
 #include "astro/Planetas.h"
 #include "sky/proyeccion/SistemaSolar.h"
 #include "astro/Tiempo.h"

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 #include "sky/Lienzo.h"
 #include "ui/controles/Estilo.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 #include <QWidget>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 
 namespace vedrano {
 

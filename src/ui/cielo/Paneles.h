@@ -7,7 +7,7 @@
 #include <QString>
 #include <QWidget>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "ui/controles/Accesible.h"
 
 namespace vedrano {

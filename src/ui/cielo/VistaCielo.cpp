@@ -8,8 +8,8 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
-#include "app/ErrorEjecucion.h"
-#include "app/Texto1252.h"
+#include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 #include "platform/qt/Cursores.h"
 #include "sky/DibujaCielo.h"
 

@@ -8,8 +8,8 @@
 #include <functional>
 #include <string>
 
-#include "app/Estado.h"
-#include "app/InterfazMensajes.h"
+#include "app/estado/Estado.h"
+#include "app/base/InterfazMensajes.h"
 #include "catalogue/Catalogos.h"
 #include "catalogue/EstrellasProfundas.h"
 #include "sky/Lienzo.h"

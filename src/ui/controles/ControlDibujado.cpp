@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QPainter>
 
-#include "app/TablasControles.h"
+#include "app/base/TablasControles.h"
 #include "platform/Pausa.h"
 #include "platform/Sonido.h"
 #include "platform/qt/Cursores.h"

@@ -9,7 +9,7 @@
 #include <QWidget>
 #include <cstdint>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "ui/controles/Accesible.h"
 
 class QPainter;

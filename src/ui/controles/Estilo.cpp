@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QWidget>
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 
 namespace vedrano::controles {
 

@@ -6,9 +6,9 @@
 #include <QPointer>
 #include <charconv>
 
-#include "app/Formato.h"
-#include "app/TablasControles.h"
-#include "app/Texto1252.h"
+#include "app/base/Formato.h"
+#include "app/base/TablasControles.h"
+#include "app/base/Texto1252.h"
 #include "platform/NumerosLocales.h"
 #include "ui/controles/Estilo.h"
 

@@ -3,7 +3,7 @@
 #pragma once
 #include <string>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "catalogue/Catalogos.h"
 
 namespace vedrano {

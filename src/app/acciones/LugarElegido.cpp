@@ -1,9 +1,9 @@
-#include "dialogs/LugarElegido.h"
+#include "app/acciones/LugarElegido.h"
 
 #include <cctype>
 #include <cmath>
 
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "astro/TextosAngulo.h"
 #include "astro/Tiempo.h"
 

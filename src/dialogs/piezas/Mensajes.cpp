@@ -1,4 +1,4 @@
-#include "dialogs/Mensajes.h"
+#include "dialogs/piezas/Mensajes.h"
 
 #include <QCloseEvent>
 #include <QFontMetrics>

@@ -1,4 +1,4 @@
-#include "dialogs/Ayuda.h"
+#include "dialogs/piezas/Ayuda.h"
 
 #include <QApplication>
 #include <QPointer>

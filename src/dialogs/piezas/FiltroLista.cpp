@@ -1,4 +1,4 @@
-#include "dialogs/FiltroLista.h"
+#include "dialogs/piezas/FiltroLista.h"
 
 #include <QListWidget>
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "dialogs/PiezasForma.h"
+#include "dialogs/piezas/PiezasForma.h"
 
 #include <QFontDatabase>
 #include <QFontMetrics>

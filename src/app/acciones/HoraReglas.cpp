@@ -1,12 +1,12 @@
-#include "dialogs/HoraReglas.h"
+#include "app/acciones/HoraReglas.h"
 
 #include <algorithm>
 #include <cctype>
 #include <cmath>
 
-#include "app/Aritmetica.h"
-#include "app/Formato.h"
-#include "app/TablasFijas.h"
+#include "app/base/Aritmetica.h"
+#include "app/base/Formato.h"
+#include "app/base/TablasFijas.h"
 #include "astro/Calendario.h"
 
 namespace vedrano {

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 
 namespace vedrano {
 

@@ -9,7 +9,7 @@
 #include <functional>
 #include <string>
 
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 
 namespace vedrano {
 

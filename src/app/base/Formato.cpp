@@ -1,4 +1,4 @@
-#include "app/Formato.h"
+#include "app/base/Formato.h"
 
 #include <algorithm>
 #include <charconv>

@@ -6,8 +6,8 @@
 #include <QWidget>
 #include <functional>
 
-#include "app/Estado.h"
-#include "app/InterfazMensajes.h"
+#include "app/estado/Estado.h"
+#include "app/base/InterfazMensajes.h"
 #include "catalogue/Catalogos.h"
 #include "platform/qt/PantallaQt.h"
 

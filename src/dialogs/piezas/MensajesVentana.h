@@ -4,8 +4,8 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "app/Estado.h"
-#include "catalogue/Notificador.h"
+#include "app/estado/Estado.h"
+#include "app/base/Notificador.h"
 #include "config/InterfazConfiguracion.h"
 
 namespace vedrano {

@@ -4,8 +4,8 @@
 #pragma once
 #include <string>
 
-#include "app/Estado.h"
-#include "app/InterfazMensajes.h"
+#include "app/estado/Estado.h"
+#include "app/base/InterfazMensajes.h"
 #include "platform/Pantalla.h"
 
 namespace vedrano {

@@ -1,6 +1,6 @@
-#include "dialogs/MensajesVentana.h"
+#include "dialogs/piezas/MensajesVentana.h"
 
-#include "dialogs/Mensajes.h"
+#include "dialogs/piezas/Mensajes.h"
 
 namespace vedrano {
 

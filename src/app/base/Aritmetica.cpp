@@ -1,4 +1,4 @@
-#include "app/Aritmetica.h"
+#include "app/base/Aritmetica.h"
 
 #include <charconv>
 

@@ -1,8 +1,8 @@
-#include "app/TablasControles.h"
+#include "app/base/TablasControles.h"
 
 #include <array>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 
 namespace vedrano {
 

@@ -1,4 +1,4 @@
-#include "dialogs/CampoAngulo.h"
+#include "dialogs/piezas/CampoAngulo.h"
 
 #include <QFontMetrics>
 #include <QLineEdit>
@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/Constantes.h"
-#include "app/TablasControles.h"
-#include "app/Texto1252.h"
+#include "app/base/Constantes.h"
+#include "app/base/TablasControles.h"
+#include "app/base/Texto1252.h"
 #include "astro/TextosAngulo.h"
 #include "ui/controles/Estilo.h"
 

@@ -2,7 +2,7 @@
 // search form's category `categoria` (0..11 in the order of the general
 // index), into ObjetivoAR and ObjetivoDEC.
 #pragma once
-#include "app/Estado.h"
+#include "app/estado/Estado.h"
 #include "catalogue/Catalogos.h"
 
 namespace vedrano {

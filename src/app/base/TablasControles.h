@@ -8,7 +8,7 @@ namespace vedrano {
 
 struct FormatoValor {
     float Minimo = 0, Maximo = 0, Paso = 0;
-    std::string Formato;  // a Format picture (app/Formato.h)
+    std::string Formato;  // a Format picture (app/base/Formato.h)
     bool Ciclico = false;  // past one end the value comes round from the other
 };
 

@@ -1,6 +1,6 @@
-#include "app/TablasFijas.h"
+#include "app/base/TablasFijas.h"
 
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 
 namespace vedrano {
 

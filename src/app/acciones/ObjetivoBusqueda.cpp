@@ -1,9 +1,9 @@
-#include "dialogs/ObjetivoBusqueda.h"
+#include "app/acciones/ObjetivoBusqueda.h"
 
 #include <cstdint>
 #include <limits>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 #include "astro/Planetas.h"
 #include "astro/Sidereo.h"
 #include "sky/proyeccion/SistemaSolar.h"

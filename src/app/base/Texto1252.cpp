@@ -1,9 +1,9 @@
-#include "app/Texto1252.h"
+#include "app/base/Texto1252.h"
 
 #include <array>
 #include <cstdint>
 
-#include "app/ErrorEjecucion.h"
+#include "app/base/ErrorEjecucion.h"
 
 namespace vedrano {
 

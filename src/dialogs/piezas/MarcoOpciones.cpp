@@ -1,4 +1,4 @@
-#include "dialogs/MarcoOpciones.h"
+#include "dialogs/piezas/MarcoOpciones.h"
 
 #include <QBoxLayout>
 #include <QFontMetrics>

@@ -1,11 +1,11 @@
-#include "app/Arranque.h"
+#include "app/acciones/Arranque.h"
 
 #include <filesystem>
 #include <fstream>
 #include <system_error>
 
-#include "app/Formato.h"
-#include "app/Texto1252.h"
+#include "app/base/Formato.h"
+#include "app/base/Texto1252.h"
 
 namespace vedrano {
 
