@@ -123,6 +123,7 @@ double Lienzo::PixelesPorUnidad() const { return std::fabs(sx_); }
 
 void Lienzo::Cls() {
     pendientes_.clear();  // drawn before the clear, they would be erased
+    turno_ = 0;
     actualX_ = actualY_ = 0;
     if (vectorial_) {
         pintor_->fillRect(QRectF(0, 0, ancho_px_, alto_px_), Tono(fondo_));
@@ -205,7 +206,7 @@ void Lienzo::Estampa1(const Estampa& s, int x0, int y0) {
         const QRgb* f = s.pixeles.data() + t.desde + (xa - x0 - t.x);
         auto* d = reinterpret_cast<QRgb*>(pixeles_ + y * linea_) + xa;
         const int n = xb - xa;
-        if (t.opaco) {
+        if (t.opaco && n > 8) {  // a short run is quicker copied below than by a call
             std::copy(f, f + n, d);
             continue;
         }
@@ -228,8 +229,13 @@ void Lienzo::Estampa1(const Estampa& s, int x0, int y0) {
 
 const Lienzo::Estampa& Lienzo::SpritePunto(int ancho, QRgb color) {
     uint64_t clave = uint64_t(ancho) << 32 | (color & 0xFFFFFF);
+    if (clave == ultimoPunto_) return *ultimaEstampaPunto_;  // runs of stars share a pen
     auto it = puntos_.find(clave);
-    if (it != puntos_.end()) return it->second;
+    if (it != puntos_.end()) {
+        ultimoPunto_ = clave;
+        ultimaEstampaPunto_ = &it->second;
+        return it->second;
+    }
     // A dot pre-rendered once: drawing thousands of stars is then a stamp each.
     int lado = ancho + 2;
     QImage p = ImagenVacia(lado, lado);
@@ -412,13 +418,34 @@ void Lienzo::Fase(double x, double y, double r, double iluminada, double haciaSo
 void Lienzo::FijaFuente(const QFont& f) {
     fuente_ = f;
     pintor_->setFont(fuente_);
-    textos_.clear();
+    OlvidaRotulos();
     QFontMetricsF m(fuente_);
     ascenso_ = m.ascent();
     altoLinea_ = m.height();
 }
 
-const Lienzo::Estampa& Lienzo::ImagenRotulo(std::string_view texto, QRgb color, int fase) {
+void Lienzo::OlvidaRotulos() {
+    textos_.clear();
+    recuerdos_.clear();
+    turno_ = 0;
+}
+
+const Lienzo::Recuerdo& Lienzo::ImagenRotulo(std::string_view texto, QRgb color, int fase) {
+    const std::size_t hash = std::hash<std::string_view>()(texto);
+    const std::size_t turno = turno_++;
+    if (turno < recuerdos_.size()) {
+        const Recuerdo& r = recuerdos_[turno];
+        if (r.clave == hash && r.color == color && r.largo == texto.size() && r.fase == fase) return r;
+    } else {
+        recuerdos_.resize(turno + 1);
+    }
+    const Estampa& e = BuscaRotulo(texto, color, fase);
+    Recuerdo& r = recuerdos_[turno];
+    r = {hash, color, static_cast<uint32_t>(texto.size()), fase, &e, e.dx, e.dy, e.ancho, e.alto};
+    return r;
+}
+
+const Lienzo::Estampa& Lienzo::BuscaRotulo(std::string_view texto, QRgb color, int fase) {
     // The key is built in a kept buffer: no allocation per label.
     std::string& clave = claveTexto_;
     clave.assign(texto);
@@ -426,7 +453,10 @@ const Lienzo::Estampa& Lienzo::ImagenRotulo(std::string_view texto, QRgb color, 
     clave.push_back(static_cast<char>(fase));
     auto it = textos_.find(clave);
     if (it != textos_.end()) return it->second;
-    if (textos_.size() > IMAGENES_MAXIMAS) textos_.clear();
+    if (textos_.size() > IMAGENES_MAXIMAS) {
+        textos_.clear();
+        std::fill(recuerdos_.begin(), recuerdos_.end(), Recuerdo{});  // they pointed into it
+    }
     // A label rendered once in its colour at its phase, with room for the
     // glyphs' overhang.
     QStaticText t(QString::fromUtf8(DesdeA1252(std::string(texto))));
@@ -473,7 +503,7 @@ void Lienzo::Escribe(std::string_view cp1252, float prioridad) {
     }
     const double px = std::floor(p.x());
     const int fase = static_cast<int>((p.x() - px) * FASES_TEXTO);
-    const Estampa& t = ImagenRotulo(texto, tinta_.rgb(), fase);
+    const Recuerdo& t = ImagenRotulo(texto, tinta_.rgb(), fase);
     // Glyphs sit on a whole-pixel baseline, as the painter places them.
     const int x = static_cast<int>(px);
     const int y = static_cast<int>(std::lround(p.y() + ascenso_) - std::lround(ascenso_ - t.dy)) - t.dy;
@@ -486,7 +516,7 @@ void Lienzo::Escribe(std::string_view cp1252, float prioridad) {
     const bool visible = caja.intersects(imagen_.rect());
     if (!rotulos_.Toca(visible) || !visible) return;
     Vacia();
-    Estampa1(t, x + t.dx, y + t.dy);
+    Estampa1(*t.estampa, x + t.dx, y + t.dy);
 }
 
 }  // namespace vedrano

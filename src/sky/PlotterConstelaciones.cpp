@@ -14,6 +14,7 @@ void DibujaConstelaciones(Contexto& x) {
     int16_t estilo = static_cast<int16_t>(x.l.EstiloTrazo());
     x.l.FijaColor(ColorVB(COLOR_FIGURAS));
     int n = CuentaNivel(x.c.TablasCuentas.Figuras, e.NivelConstelaciones);
+    if (x.l.SoloMedida()) n = -1;  // a measuring run wants the names only
     PuntoProyectado anterior;
     for (int i = 0; i <= n; ++i) {
         const PuntoTrazo& f = x.c.TablaFiguras[static_cast<std::size_t>(i)];

@@ -9,7 +9,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "app/Constantes.h"
+#include "app/base/Constantes.h"
 #include "astro/Coordenadas.h"
 #include "astro/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
