@@ -5,12 +5,20 @@
 
 #include "app/base/Constantes.h"
 #include "app/base/Texto1252.h"
+#include "astro/PrecisionAlta.h"
 #include "astro/TextosAngulo.h"
 #include "astro/Tiempo.h"
 #include "config/EscribeConfiguracion.h"
 #include "sky/proyeccion/Proyeccion.h"
 
 namespace vedrano {
+
+namespace {
+
+// Sidereal days in one mean solar day (IAU 1982).
+constexpr double DIAS_SIDEREOS = 1.00273790935;
+
+}  // namespace
 
 TextosCursor InformeCursor(Estado& e, float X, float Y) {
     double ar = 0, dec = 0;
@@ -33,9 +41,11 @@ bool CentraObjeto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m)
 
     // The step is in solar days, so the target lands on the meridian only
     // approximately; the one-shot correction makes up part of the difference.
+    // The precise model aims where it draws: a step in sidereal days.
     double S = e.TiempoSidereo;
     if (S > e.ObjetivoAR) e.ObjetivoAR += DOS_PI;
     double dias = (e.ObjetivoAR - S) / DOS_PI;
+    if (e.Pref.PrecisionAlta) dias /= DIAS_SIDEREOS;
     e.FechaJuliana += dias;
     if (e.CorreccionLuna) {
         e.FechaJuliana += dias * (11.5 * GRADO) / DOS_PI;
@@ -45,6 +55,8 @@ bool CentraObjeto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m)
 
     e.Elevacion = delta - phi + 1.5707963268;
     if (e.Elevacion > 1.5707963268) e.Elevacion = 3.1415926536 - e.Elevacion;
+    // The precise model draws the target lifted by the atmosphere.
+    if (e.Pref.PrecisionAlta) e.Elevacion = std::min(1.5707963268, e.Elevacion + Refraccion(e.Elevacion));
     e.Direccion = delta < phi ? 3.1415926536 : 0.0;
     GiraDireccion(e);
     e.CentrandoObjeto = false;
