@@ -77,7 +77,7 @@ void AjustaCuentas(TablaCuentas& cuentas, int tamano) {
 
 }  // namespace
 
-void CargaCatalogos(const std::string& dirDatos, Catalogos& c, Notificador& n) {
+void CargaCatalogos(const std::string& dirDatos, Catalogos& c, InterfazMensajes& n) {
     TrampaCarga siFalla(n);
     ListasCatalogo& l = c.Listas;
     l = ListasCatalogo{};

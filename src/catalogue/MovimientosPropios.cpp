@@ -76,7 +76,7 @@ Vector3f DireccionesEnFecha::Mueve(const Vector3f& v, const Vector3f& m) const {
     return {static_cast<float>(x / r), static_cast<float>(y / r), static_cast<float>(z / r)};
 }
 
-void CargaMovimientos(const std::string& dirDatos, Catalogos& c, Notificador& n) {
+void CargaMovimientos(const std::string& dirDatos, Catalogos& c, InterfazMensajes& n) {
     c.MovEstrellas.clear();
     c.MovEstrellasNombre.clear();
     c.MovFiguras.clear();

@@ -9,7 +9,7 @@
 
 #include "astro/Coordenadas.h"
 #include "catalogue/Catalogos.h"
-#include "app/base/Notificador.h"
+#include "app/base/InterfazMensajes.h"
 
 namespace vedrano {
 
@@ -20,7 +20,7 @@ namespace vedrano {
 //   VDRDATN.DAT, all three or none: each the motion of the record of the
 //   same index as a direction per Julian year (radians, the program's
 //   frame), tangent to the record's direction. A missing file is no error.
-void CargaMovimientos(const std::string& dirDatos, Catalogos& c, Notificador& n);
+void CargaMovimientos(const std::string& dirDatos, Catalogos& c, InterfazMensajes& n);
 
 // MovimientoAnual
 //   Given: v a unit direction, pmAR the motion along the parallel

@@ -55,7 +55,7 @@ std::string TextoConfiguracion(const Estado& e) {
     return texto;
 }
 
-ResultadoConfiguracion EscribeConfiguracion(Estado& e, std::string_view nombre, InterfazConfiguracion& ui,
+ResultadoConfiguracion EscribeConfiguracion(Estado& e, std::string_view nombre, InterfazMensajes& ui,
                                             bool esTrabajo) {
     const std::string titulo = A1252("Guardar configuración");
     ResultadoConfiguracion r;

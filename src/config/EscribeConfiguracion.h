@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "app/estado/Estado.h"
-#include "config/InterfazConfiguracion.h"
+#include "config/ResultadoConfiguracion.h"
 #include "config/ItemsConfiguracion.h"
 
 namespace vedrano {
@@ -20,7 +20,7 @@ std::string TextoConfiguracion(const Estado& e);
 // written. An existing file is replaced only when the user accepts, except
 // for the main window's work file (`esTrabajo`), which is replaced at once.
 // RespuestaMensaje is left false when the user declined, true otherwise.
-ResultadoConfiguracion EscribeConfiguracion(Estado& e, std::string_view nombre, InterfazConfiguracion& ui,
+ResultadoConfiguracion EscribeConfiguracion(Estado& e, std::string_view nombre, InterfazMensajes& ui,
                                             bool esTrabajo);
 
 }  // namespace vedrano

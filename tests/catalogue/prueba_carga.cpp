@@ -21,10 +21,11 @@ namespace {
 using namespace vedrano;
 namespace fs = std::filesystem;
 
-struct Avisos : Notificador {
+struct Avisos : InterfazMensajes {
     std::vector<std::pair<std::string, std::string>> recibidos;
-    void Avisa(const std::string& texto, const std::string& titulo) override {
+    int16_t Mensaje(const std::string& texto, const std::string& titulo, int16_t, int16_t) override {
         recibidos.emplace_back(texto, titulo);
+        return 1;
     }
     std::vector<std::string> Textos() const {
         std::vector<std::string> t;

@@ -24,7 +24,7 @@ struct MensajeVisto {
 };
 
 // Records every message and answers with the answers it was given.
-class InterfazPrueba : public InterfazConfiguracion {
+class InterfazPrueba : public InterfazMensajes {
 public:
     int16_t respuesta = -1;
     std::vector<MensajeVisto> vistos;

@@ -19,9 +19,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Calla : InterfazMensajes, Notificador {
+struct Calla : InterfazMensajes {
     int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 1; }
-    void Avisa(const std::string&, const std::string&) override {}
 };
 
 }  // namespace

@@ -28,9 +28,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Avisos : Notificador {
+struct Avisos : InterfazMensajes {
     std::vector<std::string> textos;
-    void Avisa(const std::string& t, const std::string&) override { textos.push_back(t); }
+    int16_t Mensaje(const std::string& t, const std::string&, int16_t, int16_t) override {
+        textos.push_back(t);
+        return 1;
+    }
 };
 
 const Catalogos& Datos() {
