@@ -8,7 +8,7 @@
 #include <string>
 
 #include "astro/PrecisionAlta.h"
-#include "config/Preferencias.h"
+#include "app/estado/Preferencias.h"
 
 namespace vedrano {
 
