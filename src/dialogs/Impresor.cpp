@@ -9,6 +9,7 @@
 #include <QPrinterInfo>
 #include <QVBoxLayout>
 
+#include "app/base/Cursores.h"
 #include "app/base/Texto1252.h"
 #include "dialogs/piezas/Mensajes.h"
 #include "dialogs/piezas/PiezasForma.h"
@@ -97,9 +98,9 @@ void Impresor::imprime() {
     QPrintDialog dialogo(&impresora, this);
     dialogo.setWindowTitle(QStringLiteral("Imprimir el cielo"));
     if (dialogo.exec() != QDialog::Accepted) return;
-    controles::FijaCursor(ctx_.e, this, 11);
+    controles::FijaCursor(ctx_.e, this, cursor::Espera);
     const bool bien = ImprimePagina(impresora, ctx_.e, ctx_.c);
-    controles::FijaCursor(ctx_.e, this, 0);
+    controles::FijaCursor(ctx_.e, this, cursor::Normal);
     if (!bien) {
         MuestraMensaje(ctx_.e, this, A1252("No se ha podido imprimir: la impresora no responde"), "Imprimir", 1, 1);
         return;
