@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "app/base/ErrorEjecucion.h"
+#include "app/estado/Astros.h"
 #include "astro/Planetas.h"
 #include "astro/Sidereo.h"
 #include "sky/proyeccion/SistemaSolar.h"

@@ -7,19 +7,11 @@
 #include <cstdint>
 #include <string>
 
+#include "astro/Cuerpos.h"
 #include "astro/PrecisionAlta.h"
 #include "config/Preferencias.h"
 
 namespace vedrano {
-
-// Results of the solar-system computations for one body (indices 1..11):
-// ecliptic longitude and equatorial place in radians, the direction as a
-// 32-bit unit vector and its projected screen point.
-struct PosicionCuerpo {
-    double LongGeo = 0, AscRecta = 0, Declinacion = 0;
-    float x = 0, y = 0, z = 0;
-    float X = 0, Y = 0, Z = 0;
-};
 
 // The four date fields and the time field shown for one kind of time.
 struct CamposFecha {
@@ -134,7 +126,7 @@ struct Estado {
     // Pointing.
     double ObjetivoAR = 0, ObjetivoDEC = 0;
     float CursorAltitud = 0, CursorAzimut = 0;
-    bool PanelCursor = false, Marcar = false, MarcaVisible = false, ClickArmado = false;
+    bool PanelCursor = false, Marcar = false, MarcaVisible = false;
     bool CentrandoObjeto = false, Centrado = false;
     bool CorreccionLuna = false;  // one-shot extra time step of the next centring (the Moon's motion)
 
@@ -145,7 +137,6 @@ struct Estado {
     bool Cambiado = false, RedibujoPermitido = true, SalidaConfirmada = false;
     int16_t CursorActual = 21;
     int16_t ContadorTiempoReal = 0;
-    int16_t FilaPulsador = 0;
     int16_t RespuestaMensaje = 0;  // 0 = Cancel
     int16_t BotonesMensaje = 1, IconoMensaje = 0, TemaMensaje = 0;  // of the last message shown
 
@@ -158,12 +149,6 @@ struct Estado {
     std::string DirPrograma, DirArchivo, DirDatos;
     bool SoloLectura = false;
     static constexpr const char* SaltoLinea = "\r\n";
-
-    // Scratch results of the angle texts.
-    std::string NombreRumbo;
-    int16_t GradosEnteros = 0;
-    double GradosAux = 0;
-    int16_t GradosLongitud = 0;
 
     // The shared 16-bit loop counter.
     int16_t Contador = 0;

@@ -5,8 +5,8 @@
 
 #include "app/base/Constantes.h"
 #include "app/base/Texto1252.h"
-#include "astro/TextosAngulo.h"
-#include "astro/Tiempo.h"
+#include "app/base/TextosAngulo.h"
+#include "app/estado/Tiempo.h"
 #include "config/EscribeConfiguracion.h"
 #include "sky/proyeccion/Proyeccion.h"
 
@@ -36,12 +36,12 @@ bool CentraObjeto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m)
     double S = e.TiempoSidereo;
     if (S > e.ObjetivoAR) e.ObjetivoAR += DOS_PI;
     double dias = (e.ObjetivoAR - S) / DOS_PI;
-    e.FechaJuliana += dias;
+    double jd = e.FechaJuliana + dias;
     if (e.CorreccionLuna) {
-        e.FechaJuliana += dias * (11.5 * GRADO) / DOS_PI;
+        jd += dias * (11.5 * GRADO) / DOS_PI;
         e.CorreccionLuna = false;
     }
-    ActualizaTiempo(e, planetas);
+    FijaFechaJuliana(e, planetas, jd);
 
     e.Elevacion = delta - phi + 1.5707963268;
     if (e.Elevacion > 1.5707963268) e.Elevacion = 3.1415926536 - e.Elevacion;

@@ -5,7 +5,7 @@
 
 #include "app/base/Aritmetica.h"
 #include "app/base/Constantes.h"
-#include "astro/Precesion.h"
+#include "app/estado/Rotaciones.h"
 #include "astro/PrecisionAlta.h"
 
 namespace vedrano {

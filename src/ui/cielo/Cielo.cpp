@@ -9,7 +9,7 @@
 #include <QShortcut>
 
 #include "app/base/Texto1252.h"
-#include "astro/TextosAngulo.h"
+#include "app/base/TextosAngulo.h"
 #include "config/LeeConfiguracion.h"
 #include "platform/qt/PantallaQt.h"
 #include "sky/DibujaCielo.h"
