@@ -10,9 +10,9 @@ namespace {
 
 using namespace vedrano;
 
-struct SinAvisos : Notificador {
+struct SinAvisos : InterfazMensajes {
     int avisos = 0;
-    void Avisa(const std::string&, const std::string&) override { ++avisos; }
+    int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return ++avisos; }
 };
 
 void BM_CargaCatalogos(benchmark::State& s) {

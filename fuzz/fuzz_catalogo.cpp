@@ -27,8 +27,8 @@ constexpr std::array<const char*, 18> FICHEROS = {
     "VDRDATB.DAT", "VDRDATC.DAT", "VDRDATD.DAT", "VDRDATE.DAT", "VDRDATF.DAT", "VDRDATG.DAT",
     "VDRDATH.DAT", "VDRDATI.DAT", "VDRDATJ.DAT", "VDRDATK.DAT", "VDRDATL.DAT", "VDRDATM.DAT"};
 
-struct Silencio : Notificador {
-    void Avisa(const std::string&, const std::string&) override {}
+struct Silencio : InterfazMensajes {
+    int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 1; }
 };
 
 fs::path carpeta;

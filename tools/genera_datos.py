@@ -23,11 +23,12 @@ def genera(fuentes, salida):
     lugares.escribe_vdrdath(fuentes, salida)
     messier.escribe_vdrdatg(fuentes, salida)
     constelaciones.escribe_vdrdate(fuentes, salida)
-    ultimo_figura = constelaciones.escribe_vdrdatb(fuentes, salida)
+    ultimo_figura, hips_figuras = constelaciones.escribe_vdrdatb(fuentes, salida)
     constelaciones.escribe_vdrdatc(fuentes, salida)
     clases = cielo_profundo.escribe_todas(fuentes, salida)
     magnitudes_nombre = estrellas.escribe_vdrdat2(fuentes, salida)
     magnitudes = estrellas.escribe_vdrdat1(fuentes, salida)
+    estrellas.escribe_vdrdatn(fuentes, salida, hips_figuras)
     via_lactea.escribe_vdrdatd(fuentes, salida)
     exoticos.escribe_todos(fuentes, salida)
     niveles.escribe_vdrdata(salida, [

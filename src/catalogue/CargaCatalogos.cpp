@@ -7,6 +7,7 @@
 #include "catalogue/DatosFisicosPlanetas.h"
 #include "catalogue/DecodificaRegistros.h"
 #include "catalogue/LineasLista.h"
+#include "catalogue/MovimientosPropios.h"
 #include "catalogue/TrampaCarga.h"
 
 namespace vedrano {
@@ -76,7 +77,7 @@ void AjustaCuentas(TablaCuentas& cuentas, int tamano) {
 
 }  // namespace
 
-void CargaCatalogos(const std::string& dirDatos, Catalogos& c, Notificador& n) {
+void CargaCatalogos(const std::string& dirDatos, Catalogos& c, InterfazMensajes& n) {
     TrampaCarga siFalla(n);
     ListasCatalogo& l = c.Listas;
     l = ListasCatalogo{};
@@ -147,6 +148,8 @@ void CargaCatalogos(const std::string& dirDatos, Catalogos& c, Notificador& n) {
         siFalla.AvisaYSigue([&] { AjustaCuentas(cuentas[i], tamanos[i]); });
         *destinos[i] = cuentas[i];
     }
+    // Read after the tables whose directions the motions are tangent to.
+    CargaMovimientos(dirDatos, c, n);
 }
 
 }  // namespace vedrano

@@ -7,10 +7,10 @@
 #include <string>
 
 #include "catalogue/Catalogos.h"
-#include "app/base/Notificador.h"
+#include "app/base/InterfazMensajes.h"
 
 namespace vedrano {
 
-void CargaCatalogos(const std::string& dirDatos, Catalogos& c, Notificador& n);
+void CargaCatalogos(const std::string& dirDatos, Catalogos& c, InterfazMensajes& n);
 
 }  // namespace vedrano

@@ -112,6 +112,9 @@ struct Catalogos {
     std::vector<ObjetoExotico> TablaAgujeros = std::vector<ObjetoExotico>(N_AGUJEROS);
     Cuentas TablasCuentas;
     std::vector<int16_t> IndiceListaEstrellas;  // star-list line k -> TablaEstrellasNombre index
+    // Proper motions of TablaEstrellas, TablaEstrellasNombre and TablaFiguras,
+    // record by record, as directions per Julian year; empty without VDRDATN.DAT.
+    std::vector<Vector3f> MovEstrellas, MovEstrellasNombre, MovFiguras;
     ListasCatalogo Listas;
 };
 

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "app/base/ErrorEjecucion.h"
-#include "app/base/Notificador.h"
+#include "app/base/InterfazMensajes.h"
 
 namespace vedrano {
 
@@ -19,7 +19,7 @@ std::string TextoErrorCarga(int numero, const std::string& ruta = {});
 
 class TrampaCarga {
 public:
-    explicit TrampaCarga(Notificador& n) : notificador_(n) {}
+    explicit TrampaCarga(InterfazMensajes& n) : notificador_(n) {}
 
     // The file that the next statements work on, named by their messages.
     void Archivo(std::string ruta) { ruta_ = std::move(ruta); }
@@ -37,7 +37,7 @@ public:
 
 private:
     void Informa(int numero);
-    Notificador& notificador_;
+    InterfazMensajes& notificador_;
     std::string ruta_;
 };
 

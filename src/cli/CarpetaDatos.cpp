@@ -21,9 +21,10 @@ std::optional<std::string> CarpetaDatos(const QString& pedida, const char* orden
     return carpeta;
 }
 
-void AvisosEnErrorEstandar::Avisa(const std::string& texto, const std::string& titulo) {
+int16_t AvisosEnErrorEstandar::Mensaje(const std::string& texto, const std::string& titulo, int16_t, int16_t) {
     std::cerr << DesdeA1252(titulo) << ": " << DesdeA1252(texto) << "\n";
     hubo = true;
+    return 1;
 }
 
 std::string CarpetaDe(const std::filesystem::path& ruta) {

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "app/base/Notificador.h"
+#include "app/base/InterfazMensajes.h"
 
 namespace vedrano {
 
@@ -17,11 +17,12 @@ namespace vedrano {
 // `orden`, and gives no value.
 std::optional<std::string> CarpetaDatos(const QString& pedida, const char* orden);
 
-// The loader's notices, one per line on standard error; remembers whether
-// there was any, so that a run on incomplete catalogues can fail.
-class AvisosEnErrorEstandar : public Notificador {
+// The loader's notices and the reader's messages, one per line on standard
+// error, each answered yes; remembers whether there was any, so that a run
+// on incomplete catalogues can fail.
+class AvisosEnErrorEstandar : public InterfazMensajes {
 public:
-    void Avisa(const std::string& texto, const std::string& titulo) override;
+    int16_t Mensaje(const std::string& texto, const std::string& titulo, int16_t botones, int16_t icono) override;
     bool hubo = false;
 };
 

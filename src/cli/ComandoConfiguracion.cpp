@@ -19,7 +19,7 @@ namespace {
 
 // Messages go to standard error; the command line has already been told what
 // to do, so it accepts every question.
-class InterfazConsola : public InterfazConfiguracion {
+class InterfazConsola : public InterfazMensajes {
 public:
     int16_t Mensaje(const std::string& texto, const std::string& titulo, int16_t botones, int16_t) override {
         std::string t;

@@ -25,16 +25,6 @@ namespace vedrano {
 
 namespace {
 
-// Messages of the loader and the configuration reader go to standard error;
-// a question is answered yes, as a batch run has nobody to ask.
-class Consola : public AvisosEnErrorEstandar, public InterfazConfiguracion {
-public:
-    int16_t Mensaje(const std::string& texto, const std::string& titulo, int16_t, int16_t) override {
-        Avisa(texto, titulo);
-        return 1;
-    }
-};
-
 // The picture encoded in the format its name asks for; PNG at a light
 // compression level, which costs little size and a fraction of the time.
 bool Codifica(const QImage& imagen, const QString& nombre, QByteArray& bytes) {
@@ -77,7 +67,9 @@ int ComandoDibuja(int argc, char** argv, const OpcionesCli& o) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
 
-    Consola consola;
+    // Messages of the loader and the configuration reader go to standard
+    // error; a question is answered yes, as a batch run has nobody to ask.
+    AvisosEnErrorEstandar consola;
     Catalogos catalogos;
     CargaCatalogos(*datos, catalogos, consola);
     // A sky drawn from catalogues that did not load would be a blank picture.

@@ -196,7 +196,7 @@ private:
 // Place indices of the places file used below.
 constexpr int C_DE_MEXICO = 33, HELSINKI = 65, LOS_ANGELES = 88, MADRID = 91, INICIAL = 95;
 
-class SinPreguntas : public InterfazConfiguracion {
+class SinPreguntas : public InterfazMensajes {
 public:
     explicit SinPreguntas(std::ostream& salida) : salida_(salida) {}
     int16_t Mensaje(const std::string& texto, const std::string&, int16_t botones, int16_t) override {

@@ -3,18 +3,9 @@
 #pragma once
 #include <string>
 
-namespace vedrano {
+#include "app/base/ErrorEjecucion.h"
 
-// Error numbers met only with files (the others are in app/ErrorEjecucion.h).
-enum CodigoErrorArchivo : int {
-    ErrTipoNoCoincide = 13,
-    ErrIoDispositivo = 57,
-    ErrDiscoLleno = 61,
-    ErrPermisoDenegado = 70,
-    ErrAccesoRuta = 75,
-    ErrRutaNoEncontrada = 76,
-    ErrValorNoValido = 380,
-};
+namespace vedrano {
 
 // "ERROR <modulo><numero>: <description>." in Windows-1252.
 std::string TextoErrorArchivo(const char* modulo, int numero);

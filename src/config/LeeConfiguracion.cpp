@@ -137,7 +137,7 @@ ResultadoConfiguracion LeeTextoConfiguracion(Estado& e, std::string_view conteni
     return {};
 }
 
-ResultadoConfiguracion LeeConfiguracion(Estado& e, std::string_view nombre, InterfazConfiguracion& ui) {
+ResultadoConfiguracion LeeConfiguracion(Estado& e, std::string_view nombre, InterfazMensajes& ui) {
     namespace fs = std::filesystem;
     const std::string ruta = RutaConfiguracion(e, nombre);
     ResultadoConfiguracion r;

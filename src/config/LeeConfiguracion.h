@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "app/estado/Estado.h"
-#include "config/InterfazConfiguracion.h"
+#include "config/ResultadoConfiguracion.h"
 
 namespace vedrano {
 
@@ -20,7 +20,7 @@ std::string RutaConfiguracion(const Estado& e, std::string_view nombre);
 // with the wrong number of items is taken. Faults are shown through `ui`
 // titled "Cargar configuración", except an overflow (error 6), which is
 // only returned. The caller recomputes and redraws afterwards.
-ResultadoConfiguracion LeeConfiguracion(Estado& e, std::string_view nombre, InterfazConfiguracion& ui);
+ResultadoConfiguracion LeeConfiguracion(Estado& e, std::string_view nombre, InterfazMensajes& ui);
 
 // The same from the text of a file, without showing anything.
 ResultadoConfiguracion LeeTextoConfiguracion(Estado& e, std::string_view contenido);

@@ -1,3 +1,4 @@
+#include "catalogue/MovimientosPropios.h"
 #include "sky/Plotters.h"
 
 namespace vedrano {
@@ -15,10 +16,12 @@ void DibujaConstelaciones(Contexto& x) {
     x.l.FijaColor(ColorVB(COLOR_FIGURAS));
     int n = CuentaNivel(x.c.TablasCuentas.Figuras, e.NivelConstelaciones);
     PuntoProyectado anterior;
+    // The figures join the stars where they are drawn.
+    const DireccionesEnFecha vertices(x.c.MovFiguras, AnosMovimientoPropio(e));
     for (int i = 0; i <= n; ++i) {
         const PuntoTrazo& f = x.c.TablaFiguras[static_cast<std::size_t>(i)];
         // No threshold here: the pen style alone hides strokes behind the observer.
-        PuntoProyectado p = Proyecta(x.v.catalogo, f.Direccion);
+        PuntoProyectado p = Proyecta(x.v.catalogo, vertices(static_cast<std::size_t>(i), f.Direccion));
         AjustaTrazo(x, p, estilo);
         if (f.Pluma == 0) x.l.Linea(anterior.X, anterior.Y, p.X, p.Y);
         anterior = p;

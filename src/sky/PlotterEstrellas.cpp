@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "app/base/Aritmetica.h"
+#include "catalogue/MovimientosPropios.h"
 #include "sky/Plotters.h"
 
 namespace vedrano {
@@ -11,9 +12,11 @@ void DibujaEstrellas(Contexto& x) {
     int claseRecordada = -1;  // the first star always sets the colour
     // A measuring run needs the labels only.
     int n = x.l.SoloMedida() ? -1 : CuentaNivel(x.c.TablasCuentas.Estrellas, e.NivelEstrellas);
+    const double anos = AnosMovimientoPropio(e);
+    const DireccionesEnFecha estrellas(x.c.MovEstrellas, anos), rotulos(x.c.MovEstrellasNombre, anos);
     for (int i = 0; i <= n; ++i) {
         const Estrella& s = x.c.TablaEstrellas[static_cast<std::size_t>(i)];
-        PuntoProyectado p = Proyecta(x.v.catalogo, s.Direccion);
+        PuntoProyectado p = Proyecta(x.v.catalogo, estrellas(static_cast<std::size_t>(i), s.Direccion));
         if (!EsVisible(e, p)) continue;
         if (s.Magnitud != magnitudRecordada) {
             // Stars are sorted by magnitude: the pen changes only at class steps.
@@ -33,7 +36,7 @@ void DibujaEstrellas(Contexto& x) {
     int m = CuentaNivel(x.c.TablasCuentas.Rotulos, e.NivelEstrellas);
     for (int j = 0; j <= m; ++j) {
         const EstrellaNombre& s = x.c.TablaEstrellasNombre[static_cast<std::size_t>(j)];
-        PuntoProyectado p = Proyecta(x.v.catalogo, s.Direccion);
+        PuntoProyectado p = Proyecta(x.v.catalogo, rotulos(static_cast<std::size_t>(j), s.Direccion));
         if (!EsVisible(e, p)) continue;
         x.l.FijaPosicion(p.X, p.Y);
         x.l.Escribe(e.IdEstrellas == 1 ? s.Designacion.texto() : s.Nombre.texto(), RangoMagnitud(s.Magnitud));

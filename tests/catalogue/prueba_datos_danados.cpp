@@ -22,9 +22,12 @@ namespace {
 using namespace vedrano;
 namespace fs = std::filesystem;
 
-struct Avisos : Notificador {
+struct Avisos : InterfazMensajes {
     std::vector<std::string> textos;
-    void Avisa(const std::string& texto, const std::string&) override { textos.push_back(texto); }
+    int16_t Mensaje(const std::string& texto, const std::string&, int16_t, int16_t) override {
+        textos.push_back(texto);
+        return 1;
+    }
 };
 
 class DatosDanados : public ::testing::Test {

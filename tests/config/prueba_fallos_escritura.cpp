@@ -34,7 +34,7 @@ std::string Lee(const fs::path& p) {
     return s.str();
 }
 
-class Calla : public InterfazConfiguracion {
+class Calla : public InterfazMensajes {
 public:
     std::string ultimo;
     int16_t Mensaje(const std::string& texto, const std::string&, int16_t, int16_t) override {

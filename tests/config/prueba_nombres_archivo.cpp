@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class Calla : public InterfazConfiguracion {
+class Calla : public InterfazMensajes {
 public:
     int avisos = 0;
     int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override {

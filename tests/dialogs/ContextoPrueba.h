@@ -14,8 +14,8 @@
 
 namespace pruebas {
 
-struct AvisosCarga : vedrano::Notificador {
-    void Avisa(const std::string&, const std::string&) override {}
+struct AvisosCarga : vedrano::InterfazMensajes {
+    int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 1; }
 };
 
 inline const vedrano::Catalogos& CatalogosDatos() {

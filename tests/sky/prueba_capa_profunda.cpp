@@ -22,8 +22,8 @@ using namespace vedrano;
 
 namespace {
 
-struct Mudo : Notificador {
-    void Avisa(const std::string&, const std::string&) override {}
+struct Mudo : InterfazMensajes {
+    int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 1; }
 };
 
 struct Capa : ::testing::Test {

@@ -22,9 +22,12 @@ using namespace vedrano;
 
 namespace {
 
-class Silencio : public Notificador {
+class Silencio : public InterfazMensajes {
 public:
-    void Avisa(const std::string& t, const std::string&) override { mensajes += t + "\n"; }
+    int16_t Mensaje(const std::string& t, const std::string&, int16_t, int16_t) override {
+        mensajes += t + "\n";
+        return 1;
+    }
     std::string mensajes;
 };
 
@@ -175,7 +178,7 @@ TEST(Dibujo, DaylightFollowsTheSunsAltitude) {
 
 TEST(Dibujo, TheMoonCoversTheSunAtTheEclipse) {
     // The annular eclipse of 3 October 2005 at its maximum seen from Madrid.
-    class Calla : public InterfazConfiguracion {
+    class Calla : public InterfazMensajes {
     public:
         int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 1; }
     } calla;

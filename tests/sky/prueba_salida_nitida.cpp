@@ -20,9 +20,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class Calla : public Notificador, public InterfazConfiguracion {
+class Calla : public InterfazMensajes {
 public:
-    void Avisa(const std::string&, const std::string&) override {}
     int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return -1; }
 };
 

@@ -8,9 +8,9 @@
 namespace pruebas {
 
 inline const vedrano::Catalogos& CatalogosDePrueba() {
-    class Calla : public vedrano::Notificador {
+    class Calla : public vedrano::InterfazMensajes {
     public:
-        void Avisa(const std::string&, const std::string&) override {}
+        int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 1; }
     };
     static vedrano::Catalogos c;
     static bool cargado = [] {

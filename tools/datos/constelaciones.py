@@ -110,8 +110,8 @@ def _trazos(segmentos):
 
 
 def figuras(fuentes):
-    """Points (pen, ra, dec) ordered by constellation level, and the index
-    of the last point of each level 1 to 4."""
+    """Points (pen, ra, dec, hip) ordered by constellation level, and the
+    index of the last point of each level 1 to 4."""
     niveles = {f['abbr']: f['nivel'] for f in constelaciones(fuentes)}
     segmentos = defaultdict(list)
     posicion = {}
@@ -125,7 +125,7 @@ def figuras(fuentes):
     for abbr in sorted(segmentos, key=lambda a: (niveles[a], binario.clave_alfabetica(a))):
         for trazo in _trazos(segmentos[abbr]):
             for k, hip in enumerate(trazo):
-                puntos.append((1 if k == 0 else 0,) + posicion[hip])
+                puntos.append((1 if k == 0 else 0,) + posicion[hip] + (hip,))
         ultimo[niveles[abbr]] = len(puntos) - 1
     if len(puntos) > NUM_PUNTOS_FIGURAS:
         raise ValueError('las figuras necesitan %d puntos' % len(puntos))
@@ -135,13 +135,16 @@ def figuras(fuentes):
 
 
 def escribe_vdrdatb(fuentes, salida):
+    """Writes the figures; returns the last point of each level and the
+    Hipparcos number of every record (the padding repeats the last)."""
     puntos, ultimo = figuras(fuentes)
-    registros = [binario.entero(p) + binario.vector(ar, dec) for p, ar, dec in puntos]
+    registros = [binario.entero(p) + binario.vector(ar, dec) for p, ar, dec, _ in puntos]
     # Unused room: pen-up copies of the last point, which draw nothing.
     relleno = binario.entero(1) + binario.vector(puntos[-1][1], puntos[-1][2])
+    hips = [p[3] for p in puntos] + [puntos[-1][3]] * (NUM_PUNTOS_FIGURAS - len(registros))
     registros += [relleno] * (NUM_PUNTOS_FIGURAS - len(registros))
     binario.escribe(salida, 'VDRDATB.DAT', registros, 14)
-    return ultimo
+    return ultimo, hips
 
 
 def escribe_vdrdatc(fuentes, salida):

@@ -10,6 +10,7 @@ that the legend's classes mean something at the eyepiece.
 """
 import os
 import re
+import struct
 
 from . import binario
 
@@ -184,3 +185,33 @@ def escribe_vdrdat2(fuentes, salida):
                          + binario.vector(ar, dec))
     binario.escribe(salida, 'VDRDAT2.DAT', registros, 44)
     return [float(f['vmag']) for f in filas]
+
+
+def _movimientos(fuentes):
+    """Hipparcos proper motions by HIP number: (mu_alpha cos delta, mu_delta)
+    in milliarcseconds per year."""
+    ruta = os.path.join(fuentes, 'estrellas', 'movimientos_propios_hip.tsv')
+    return {f['hip']: (float(f['pmra_mas_yr']), float(f['pmdec_mas_yr']))
+            for f in binario.lee_csv(ruta, separador='\t')}
+
+
+def escribe_vdrdatn(fuentes, salida, hips_figuras):
+    """VDRDATN.DAT: the proper motions of the stars of VDRDAT1, VDRDAT2 and
+    of the figure points of VDRDATB, each table in its own record order.
+
+        header   "VDRN", version (u16 = 1), 0 (u16), the three record
+                 counts (3 x u32)
+        records  mu_alpha cos delta and mu_delta, mas per Julian year
+                 (2 x f32); 0 and 0 for a star without one
+
+    The classic files stay as they are: the program reads this one when it
+    is there and draws the stars at J2000 when it is not."""
+    movimientos = _movimientos(fuentes)
+    tipos = {f['hip']: tipo(f) for f in estrellas(fuentes)}
+    tablas = [[f['hip'] for f in estrellas(fuentes)[:NUM_ESTRELLAS]],
+              [f['hip'] for f in con_nombre(fuentes, tipos)[0]],
+              hips_figuras]
+    cabecera = b'VDRN' + struct.pack('<HH3I', 1, 0, *(len(t) for t in tablas))
+    registros = [struct.pack('<2f', *movimientos.get(h, (0.0, 0.0))) for t in tablas for h in t]
+    binario.escribe(salida, 'VDRDATN.DAT', [cabecera + b''.join(registros)],
+                    len(cabecera) + 8 * len(registros))

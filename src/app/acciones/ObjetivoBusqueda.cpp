@@ -5,8 +5,9 @@
 
 #include "app/base/ErrorEjecucion.h"
 #include "app/estado/Astros.h"
-#include "astro/Planetas.h"
-#include "astro/Sidereo.h"
+#include "app/estado/Rotaciones.h"
+#include "catalogue/MovimientosPropios.h"
+#include "sky/proyeccion/Proyeccion.h"
 #include "sky/proyeccion/SistemaSolar.h"
 
 namespace vedrano {
@@ -17,12 +18,24 @@ void CompruebaCota(int i, std::size_t cota) {
     if (i < 0 || static_cast<std::size_t>(i) >= cota) throw ErrorEjecucion(ErrSubindice);
 }
 
+// `mov` the table's proper motions (the named stars' only).
 template <class Registro>
-void Objetivo(Estado& e, const std::vector<Registro>& tabla, int i, std::size_t cota) {
+void Objetivo(Estado& e, const std::vector<Registro>& tabla, int i, std::size_t cota,
+              const std::vector<Vector3f>& mov = {}) {
     CompruebaCota(i, cota);
     CompruebaCota(i, tabla.size());
-    e.ObjetivoAR = tabla[static_cast<std::size_t>(i)].AR;
-    e.ObjetivoDEC = tabla[static_cast<std::size_t>(i)].DEC;
+    const Registro& r = tabla[static_cast<std::size_t>(i)];
+    e.ObjetivoAR = r.AR;
+    e.ObjetivoDEC = r.DEC;
+    // The classic centring aims at the catalogue's place, as the search
+    // form reads it, even where the picture precesses the object. The
+    // precise model aims where it draws the object: moved by its proper
+    // motion and referred to the equator and equinox of the date.
+    if (e.Pref.PrecisionAlta) {
+        Vector3f v = DireccionesEnFecha(mov, AnosMovimientoPropio(e))(static_cast<std::size_t>(i), r.Direccion);
+        AplicaPrecesion(e, v);
+        VectorAAngulos(v, e.ObjetivoAR, e.ObjetivoDEC);
+    }
 }
 
 void CuerpoSolar(Estado& e, const Catalogos& c, int linea) {
@@ -53,7 +66,8 @@ void FijaObjetivo(Estado& e, const Catalogos& c, int categoria, int linea) {
         case 3: {
             CompruebaCota(linea, 1483);
             CompruebaCota(linea, c.IndiceListaEstrellas.size());
-            Objetivo(e, c.TablaEstrellasNombre, c.IndiceListaEstrellas[static_cast<std::size_t>(linea)], 2586);
+            Objetivo(e, c.TablaEstrellasNombre, c.IndiceListaEstrellas[static_cast<std::size_t>(linea)], 2586,
+                     c.MovEstrellasNombre);
             break;
         }
         case 4: Objetivo(e, c.TablaGalaxias, linea, 1234); break;

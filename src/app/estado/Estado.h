@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 
+#include "astro/Coordenadas.h"
 #include "astro/Cuerpos.h"
 #include "astro/PrecisionAlta.h"
 #include "config/Preferencias.h"
@@ -25,9 +26,8 @@ struct DerivadosRotacion {
     bool precesionLista = false;
     bool alta = false;  // the cached matrix is the precise model's, for date `zeta`
     double p[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
-    double sidereo = 0, latitud = 0;  // angles of the cached horizon rotation
     bool horizonteListo = false;
-    double cs = 1, ss = 0, cf = 1, sf = 0;
+    RotacionHorizonte horizonte;
     double giro = 0, elevacion = 0;  // angles of the cached view rotation
     bool vistaLista = false;
     double cc = 1, sc = 0, cd = 1, sd = 0;
@@ -150,12 +150,11 @@ struct Estado {
     bool SoloLectura = false;
     static constexpr const char* SaltoLinea = "\r\n";
 
-    // The shared 16-bit loop counter.
-    int16_t Contador = 0;
-
+    // Filled on demand by the projection from a const state; what it holds
+    // follows from the fields above, so it never changes what is drawn.
     mutable DerivadosRotacion Derivados;
     // The precise model's Earth and rotation of the last instant computed.
-    mutable InstantePreciso InstanteAlta;
+    InstantePreciso InstanteAlta;
 };
 
 }  // namespace vedrano

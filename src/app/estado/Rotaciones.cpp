@@ -48,26 +48,14 @@ void AplicaPrecesion(const Estado& e, Vector3f& v) {
 
 void PreparaHorizonte(const Estado& e) {
     DerivadosRotacion& r = e.Derivados;
-    if (r.horizonteListo && r.sidereo == e.TiempoSidereo && r.latitud == e.Latitud) return;
-    RotacionHorizonte h = HallaRotacionHorizonte(e.TiempoSidereo, e.Latitud);
-    r.sidereo = h.sidereo;
-    r.latitud = h.latitud;
-    r.cs = h.cs;
-    r.ss = h.ss;
-    r.cf = h.cf;
-    r.sf = h.sf;
+    if (r.horizonteListo && r.horizonte.sidereo == e.TiempoSidereo && r.horizonte.latitud == e.Latitud) return;
+    r.horizonte = HallaRotacionHorizonte(e.TiempoSidereo, e.Latitud);
     r.horizonteListo = true;
 }
 
 Vector3f EcuatorialAHorizontal(const Estado& e, const Vector3f& v) {
     PreparaHorizonte(e);
-    const DerivadosRotacion& r = e.Derivados;
-    RotacionHorizonte h;
-    h.cs = r.cs;
-    h.ss = r.ss;
-    h.cf = r.cf;
-    h.sf = r.sf;
-    return EcuatorialAHorizontal(h, v);
+    return EcuatorialAHorizontal(e.Derivados.horizonte, v);
 }
 
 }  // namespace vedrano

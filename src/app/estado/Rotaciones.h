@@ -30,8 +30,8 @@ void PreparaPrecesion(const Estado& e);
 // Z toward the zenith (the sine of the altitude).
 Vector3f EcuatorialAHorizontal(const Estado& e, const Vector3f& v);
 
-// Makes sure the sines and cosines of the sidereal time and latitude in
-// e.Derivados are those of the state.
+// Makes sure e.Derivados.horizonte is the rotation of the state's sidereal
+// time and latitude.
 void PreparaHorizonte(const Estado& e);
 
 }  // namespace vedrano

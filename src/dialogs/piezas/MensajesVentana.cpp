@@ -9,8 +9,4 @@ int16_t MensajesVentana::Mensaje(const std::string& texto, const std::string& ti
     return MuestraMensaje(e_, padre_, texto, titulo, botones, icono);
 }
 
-void MensajesVentana::Avisa(const std::string& textoCp1252, const std::string& tituloCp1252) {
-    MuestraMensaje(e_, padre_, textoCp1252, tituloCp1252, 1, 1);
-}
-
 }  // namespace vedrano

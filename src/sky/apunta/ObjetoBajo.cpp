@@ -10,6 +10,7 @@
 #include "astro/Coordenadas.h"
 #include "app/estado/Rotaciones.h"
 #include "app/base/TextosAngulo.h"
+#include "catalogue/MovimientosPropios.h"
 #include "sky/proyeccion/Proyeccion.h"
 
 namespace vedrano {
@@ -41,11 +42,14 @@ struct Busqueda {
         direccion = v;
     }
 
+    // `mov` the table's proper motions (none but the stars').
     template <class Registro>
-    void Tabla(ClaseObjeto clase, const std::vector<Registro>& t, int ultimo) {
+    void Tabla(ClaseObjeto clase, const std::vector<Registro>& t, int ultimo,
+               const std::vector<Vector3f>& mov = {}) {
+        const DireccionesEnFecha donde(mov, AnosMovimientoPropio(e));
         for (int i = 0; i <= ultimo && i < static_cast<int>(t.size()); ++i) {
-            const Registro& r = t[static_cast<std::size_t>(i)];
-            Prueba(clase, i, ProyectaPunto(e, r.Direccion), {}, 0, r.Direccion);
+            const Vector3f v = donde(static_cast<std::size_t>(i), t[static_cast<std::size_t>(i)].Direccion);
+            Prueba(clase, i, ProyectaPunto(e, v), {}, 0, v);
         }
     }
 };
@@ -86,7 +90,8 @@ void Lugar(const Estado& e, Vector3f v, double& ar, double& dec) {
 ObjetoSenalado ObjetoBajo(const Estado& e, const Catalogos& c, float X, float Y, float radio) {
     Busqueda b{e, X, Y, radio, {}, {}};
     const Interruptores& s = e.Capas;
-    if (e.NivelEstrellas > 0) b.Tabla(ClaseObjeto::Estrella, c.TablaEstrellas, Cuenta(c.TablasCuentas.Estrellas, e.NivelEstrellas));
+    if (e.NivelEstrellas > 0) b.Tabla(ClaseObjeto::Estrella, c.TablaEstrellas, Cuenta(c.TablasCuentas.Estrellas, e.NivelEstrellas),
+                                     c.MovEstrellas);
     if (Encendido(s.Messi)) b.Tabla(ClaseObjeto::Messier, c.TablaMessier, static_cast<int>(c.TablaMessier.size()) - 1);
     const Cuentas& t = c.TablasCuentas;
     if (Encendido(s.Galax)) b.Tabla(ClaseObjeto::Galaxia, c.TablaGalaxias, Cuenta(t.Galaxias, e.NivelGalaxias));
@@ -167,7 +172,7 @@ std::vector<std::string> DescribeObjeto(const Estado& e, const Catalogos& c, con
                 l.push_back("Estrella sin nombre en el cat\xE1logo");
             }
             l.push_back(std::string(tipos[s.Tipo & 3]) + ", magnitud " + Decimal(s.Magnitud, 1));
-            Lugar(e, s.Direccion, ar, dec);
+            Lugar(e, DireccionesEnFecha(c.MovEstrellas, AnosMovimientoPropio(e))(i, s.Direccion), ar, dec);
             break;
         }
         case ClaseObjeto::Messier: {

@@ -44,15 +44,58 @@ PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h) {
 
 namespace {
 
+// The lift against the sine of the true altitude, tabulated once: the pass
+// lifts every object it draws, and reading the table costs a fraction of
+// the formula's arc tangent, tangent, sine and cosine. Read linearly it
+// errs by less than 0.001'. Below -3 degrees there is no lift.
+class TablaRefraccion {
+public:
+    TablaRefraccion() {
+        for (int i = 0; i <= N; ++i) valores_[i] = Refraccion(std::asin(std::min(1.0, DESDE + i * PASO)));
+    }
+    double operator()(double z) const {
+        double u = (z - DESDE) / PASO;
+        if (!(u > 0)) return 0;
+        int i = std::min(N - 1, static_cast<int>(u));
+        double f = u - i;
+        return valores_[i] + f * (valores_[i + 1] - valores_[i]);
+    }
+
+private:
+    static constexpr int N = 4096;
+    static constexpr double DESDE = -0.0541, PASO = (1 - DESDE) / N;  // sin(-3.1 degrees)
+    double valores_[N + 1];
+};
+
 // The precise model lifts every direction by the atmosphere's refraction
-// (x west, y north, z zenith).
+// (x west, y north, z zenith): a turn by the lift in the vertical plane.
 void Refracta(Vector3f& h) {
-    double horizontal = std::hypot(double{h.x}, double{h.y});
+    static const TablaRefraccion tabla;
+    const double z = h.z, horizontal = std::sqrt(double{h.x} * h.x + double{h.y} * h.y);
     if (horizontal < 1e-9) return;
-    double altura = std::atan2(double{h.z}, horizontal);
-    double nueva = altura + Refraccion(altura);
-    double k = std::cos(nueva) / horizontal;
-    h = {static_cast<float>(h.x * k), static_cast<float>(h.y * k), static_cast<float>(std::sin(nueva))};
+    const double r = tabla(z);
+    if (r == 0) return;
+    const double c = 1 - r * r / 2, s = r - r * r * r / 6;  // the lift is under 0.7 degree
+    const double k = (horizontal * c - z * s) / horizontal;
+    h = {static_cast<float>(h.x * k), static_cast<float>(h.y * k), static_cast<float>(z * c + horizontal * s)};
+}
+
+// The inverse: the true altitude whose lifted place is the apparent one.
+// The lift changes slowly with the altitude (at most a third as fast), so
+// the plain iteration converges.
+void QuitaRefraccion(double& x, double& y, double& z) {
+    double horizontal = std::hypot(x, y);
+    if (horizontal < 1e-9) return;
+    const double aparente = std::atan2(z, horizontal);
+    double verdadera = aparente;
+    for (int i = 0; i < 40; ++i) {
+        double siguiente = aparente - Refraccion(verdadera);
+        bool quieta = std::fabs(siguiente - verdadera) < 1e-14;
+        verdadera = siguiente;
+        if (quieta) break;
+    }
+    double k = std::cos(verdadera) / horizontal;
+    x *= k, y *= k, z = std::sin(verdadera);
 }
 
 }  // namespace
@@ -75,10 +118,10 @@ PuntoProyectado ProyectaPuntoFecha(const Estado& e, const Vector3f& v) {
 namespace {
 
 // The rotation chain applied to the three unit vectors: columns of the
-// matrix from a frame to the view frame. desde 0 starts at catalogue
-// directions (with precession when asked), 1 at directions of the date,
-// 2 at horizon directions.
-void ConstruyeMatriz(const Estado& e, int desde, bool precesion, double m[3][3]) {
+// matrix from a frame to the view frame (or only to the horizon frame).
+// desde 0 starts at catalogue directions (with precession when asked), 1 at
+// directions of the date, 2 at horizon directions.
+void ConstruyeMatriz(const Estado& e, int desde, bool precesion, double m[3][3], bool hastaHorizonte = false) {
     const DerivadosRotacion& r = e.Derivados;
     for (int j = 0; j < 3; ++j) {
         double v[3] = {0, 0, 0};
@@ -90,10 +133,15 @@ void ConstruyeMatriz(const Estado& e, int desde, bool precesion, double m[3][3])
         }
         double X1 = v[0], Y2 = v[1], Z2 = v[2];
         if (desde < 2) {
-            X1 = v[0] * r.cs + v[2] * r.ss;
-            double Z1 = v[2] * r.cs - v[0] * r.ss;
-            Y2 = v[1] * r.cf - Z1 * r.sf;
-            Z2 = Z1 * r.cf + v[1] * r.sf;
+            const RotacionHorizonte& h = r.horizonte;
+            X1 = v[0] * h.cs + v[2] * h.ss;
+            double Z1 = v[2] * h.cs - v[0] * h.ss;
+            Y2 = v[1] * h.cf - Z1 * h.sf;
+            Z2 = Z1 * h.cf + v[1] * h.sf;
+        }
+        if (hastaHorizonte) {
+            m[0][j] = X1, m[1][j] = Y2, m[2][j] = Z2;
+            continue;
         }
         double X3 = X1 * r.cc + Y2 * r.sc;
         double Y3 = Y2 * r.cc - X1 * r.sc;
@@ -145,7 +193,36 @@ VistasPasada PreparaVistas(const Estado& e) {
     std::copy(&r.m[0][0], &r.m[0][0] + 9, &v.catalogo.m[0][0]);
     ConstruyeMatriz(e, 1, false, v.fecha.m);
     ConstruyeMatriz(e, 2, false, v.horizonte.m);
+    if (e.Pref.PrecisionAlta) {
+        // Everything in the sky is lifted by the atmosphere; the horizon is not.
+        ConstruyeMatriz(e, 0, PrecesaCatalogo(e), v.catalogo.h, true);
+        ConstruyeMatriz(e, 1, false, v.fecha.h, true);
+        std::copy(&v.horizonte.m[0][0], &v.horizonte.m[0][0] + 9, &v.catalogo.m[0][0]);
+        std::copy(&v.horizonte.m[0][0], &v.horizonte.m[0][0] + 9, &v.fecha.m[0][0]);
+        v.catalogo.refracta = v.fecha.refracta = true;
+    }
     return v;
+}
+
+namespace {
+
+Vector3f Por(const double m[3][3], const Vector3f& v) {
+    return {static_cast<float>(m[0][0] * v.x + m[0][1] * v.y + m[0][2] * v.z),
+            static_cast<float>(m[1][0] * v.x + m[1][1] * v.y + m[1][2] * v.z),
+            static_cast<float>(m[2][0] * v.x + m[2][1] * v.y + m[2][2] * v.z)};
+}
+
+}  // namespace
+
+PuntoProyectado ProyectaRefractando(const MatrizVista& r, const Vector3f& v) {
+    Vector3f h = Por(r.h, v);
+    Refracta(h);
+    Vector3f p = Por(r.m, h);
+    return {p.x, p.y, p.z};
+}
+
+double AnosMovimientoPropio(const Estado& e) {
+    return e.Pref.PrecisionAlta ? (e.FechaJuliana - 2451545.0) / 365.25 : 0.0;
 }
 
 void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, float& altitud,
@@ -164,6 +241,7 @@ void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, flo
         double Z2 = Z * std::cos(D) - y0 * std::sin(D);
         double X1 = x0 * std::cos(C) + Y3 * std::sin(C);
         double Y2 = Y3 * std::cos(C) - x0 * std::sin(C);
+        if (e.Pref.PrecisionAlta) QuitaRefraccion(X1, Y2, Z2);
 
         altitud = static_cast<float>(std::atan(Divide(Z2, Sqr(1 - Z2 * Z2))));
         double h = Sqr(X1 * X1 + Y2 * Y2);
@@ -198,8 +276,6 @@ void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, flo
         dec = 99;
     }
 }
-
-void GiraDireccion(Estado& e) { e.DireccionGirada = e.Direccion - PI; }
 
 void AjustaEscala(Estado& e, int anchoPixeles, int altoPixeles) {
     float signo = e.Orientacion == 1 ? 1.0f : -1.0f;

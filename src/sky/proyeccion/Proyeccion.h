@@ -6,6 +6,7 @@
 #pragma once
 
 #include "app/estado/Estado.h"
+#include "app/estado/Vista.h"
 #include "astro/Coordenadas.h"
 
 namespace vedrano {
@@ -19,10 +20,16 @@ struct PuntoProyectado {
 PuntoProyectado ProyectaPunto(const Estado& e, Vector3f v);
 
 // The whole rotation from a frame to the view frame as one matrix, built
-// once for a pass so that each object then costs nine products.
+// once for a pass so that each object then costs nine products. The
+// precise model's refraction is no rotation: then `h` carries the frame to
+// the horizon, the lift is applied there, and `m` carries on to the view.
 struct MatrizVista {
     double m[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
+    double h[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
+    bool refracta = false;
 };
+
+PuntoProyectado ProyectaRefractando(const MatrizVista& r, const Vector3f& v);
 
 // The matrices of a pass: catalogue directions (precessed when the switch
 // is on, as ProyectaPunto), directions of the date (as ProyectaHorizontal
@@ -34,6 +41,7 @@ struct VistasPasada {
 VistasPasada PreparaVistas(const Estado& e);
 
 inline PuntoProyectado Proyecta(const MatrizVista& r, const Vector3f& v) {
+    if (r.refracta) return ProyectaRefractando(r, v);
     return {static_cast<float>(r.m[0][0] * v.x + r.m[0][1] * v.y + r.m[0][2] * v.z),
             static_cast<float>(r.m[1][0] * v.x + r.m[1][1] * v.y + r.m[1][2] * v.z),
             static_cast<float>(r.m[2][0] * v.x + r.m[2][1] * v.y + r.m[2][2] * v.z)};
@@ -47,19 +55,23 @@ PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v);
 // its precession step, whatever the precession switch says.
 PuntoProyectado ProyectaPuntoFecha(const Estado& e, const Vector3f& v);
 
+// Julian years from J2000 to the state's instant over which the stars move
+// by their proper motions: the precise model's; the classic one keeps the
+// catalogue's places (0).
+double AnosMovimientoPropio(const Estado& e);
+
 // Projects a direction already in the horizon frame (x west, y north,
 // z zenith).
 PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h);
 
 // Inverse transform: the right ascension and declination (referred to the
-// date), altitude and azimuth under a screen point. A point off the sphere,
+// date), altitude and azimuth under a screen point; in the precise model
+// with the refraction that the picture applies taken off, so that a star
+// reads its true altitude. A point off the sphere,
 // or one the arithmetic cannot undo, gives right ascension and declination
 // 99; altitude and azimuth are then left as they were when not reached.
 void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, float& altitud,
                  float& azimut);
-
-// The turned azimuth: Direccion - pi.
-void GiraDireccion(Estado& e);
 
 // The user scale from the zoom and the orientation flag, and the depth
 // threshold below which a point cannot fall inside the picture. With a

@@ -1,17 +1,11 @@
-// What the configuration reader and writer need from whoever runs them:
-// a way to show a message and hear the answer. The main window answers with
-// its message box; the command line answers for itself.
+// What reading or writing a configuration came to. Both ask and tell the
+// user through the program's message port (app/base/InterfazMensajes.h).
 #pragma once
-#include <cstdint>
 #include <string>
 
 #include "app/base/InterfazMensajes.h"
 
 namespace vedrano {
-
-// The configuration reader and writer ask and tell through the program's
-// one message interface.
-using InterfazConfiguracion = InterfazMensajes;
 
 // The outcome of reading or writing a configuration.
 struct ResultadoConfiguracion {

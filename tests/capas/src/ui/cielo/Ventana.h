@@ -1,0 +1,2 @@
+// The header of a layer the catalogue may not use.
+#pragma once
