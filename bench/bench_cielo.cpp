@@ -101,6 +101,42 @@ BENCHMARK(BM_PasadaCompleta)
     ->Args({1024, 768, 1})
     ->Unit(benchmark::kMillisecond);
 
+// One layer alone at 1920x1080 (labels as in the full pass), to see where
+// the pass's time goes; layer 0 is the empty pass: the clear and the panel.
+void BM_CapaSola(benchmark::State& st) {
+    Aplicacion();
+    const Catalogos& c = Datos();
+    Lienzo l(1920, 1080);
+    Estado e = TodoEncendido();
+    const Estado todo = e;
+    e.Capas = Interruptores{};
+    e.Capas.Sol = e.Capas.Luna = e.Capas.Horiz = 0;
+    e.Capas.Plane.fill(0);
+    e.NivelEstrellas = e.NivelConstelaciones = 0;
+    Interruptores& s = e.Capas;
+    const Interruptores& t = todo.Capas;
+    switch (st.range(0)) {
+        case 1: s.LuzDi = t.LuzDi; break;
+        case 2: s.ARDEC15 = s.ARDEC30 = 1; break;
+        case 3: s.LimCo = 1; break;
+        case 4: s.Horiz = s.Eclip = 1; break;
+        case 5: e.NivelConstelaciones = todo.NivelConstelaciones; break;
+        case 6: e.NivelEstrellas = todo.NivelEstrellas; break;
+        case 7: s.Messi = s.Galax = s.NebPl = s.NebDi = s.CumAb = s.CumGl = 1; break;
+        case 8: s.Quasa = s.Pulsa = s.Aguje = 1; break;
+        case 9: s.ViaLa = 1; break;
+        case 10: s.Sol = s.Luna = 1, s.Plane.fill(1); break;
+        default: break;
+    }
+    ActualizaCielo(e, c, l);
+    OpcionesDibujo o = Opciones();
+    for (auto _ : st) {
+        DibujaCielo(e, c, l, o);
+        benchmark::DoNotOptimize(l.Imagen().constBits());
+    }
+}
+BENCHMARK(BM_CapaSola)->DenseRange(0, 10)->Unit(benchmark::kMillisecond);
+
 const EstrellasProfundas& Profundas() {
     static EstrellasProfundas p;
     static bool abierto = [] {

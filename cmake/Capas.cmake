@@ -92,12 +92,17 @@ qt_add_resources(vedrano_plataforma_qt "iconos" PREFIX "/icono" BASE ${PROJECT_S
 # main window. The controls still read the state record.
 vedrano_capa(vedrano_controles ui/controles QT USA vedrano_base vedrano_plataforma
              vedrano_plataforma_qt PENDIENTE vedrano_estado)
+# What the main window hands a form and how a form is shown: the port
+# through which the window opens forms without knowing them.
+vedrano_capa(vedrano_formas ui/formas USA vedrano_base vedrano_estado vedrano_catalogo
+             vedrano_plataforma_qt Qt6::Widgets)
 vedrano_capa(vedrano_piezas dialogs/piezas QT USA vedrano_controles vedrano_acciones vedrano_dibujo
-             vedrano_plataforma_qt)
+             vedrano_plataforma_qt vedrano_formas)
 vedrano_capa(vedrano_dialogos dialogs QT USA vedrano_piezas Qt6::PrintSupport)
-# The main window still takes the dialogs' context and message window.
+# The main window: no form of dialogs/ is known to it (the start-up wires
+# them into DialogosCielo).
 vedrano_capa(vedrano_ventana ui/cielo QT USA vedrano_controles vedrano_dibujo vedrano_acciones
-             PENDIENTE vedrano_piezas)
+             vedrano_formas)
 # The orders of vedrano-cli and the command lines of both programs, apart
 # from main() so that tests and fuzzers can call them.
 vedrano_capa(vedrano_ordenes cli USA vedrano_acciones vedrano_dibujo PRIVADO Qt6::Svg)

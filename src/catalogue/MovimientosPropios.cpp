@@ -5,7 +5,6 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include "app/base/Texto1252.h"
 #include "catalogue/TrampaCarga.h"
@@ -64,7 +63,7 @@ bool Lee(const std::string& b, Catalogos& c) {
 Vector3f MovimientoAnual(const Vector3f& v, double pmAR, double pmDec) {
     // East is d(v)/d(alpha) / cos(delta) = (-cos a, 0, -sin a) and north
     // d(v)/d(delta), both written with v's own components.
-    const double x = v.x, y = v.y, z = v.z, cd = std::hypot(x, z);
+    const double x = v.x, y = v.y, z = v.z, cd = std::sqrt(x * x + z * z);
     if (cd < 1e-9) return {};
     const double e = pmAR * MAS_A_RADIANES, n = pmDec * MAS_A_RADIANES;
     return {static_cast<float>(-z / cd * e - x / cd * y * n), static_cast<float>(cd * n),
@@ -89,7 +88,8 @@ void CargaMovimientos(const std::string& dirDatos, Catalogos& c, InterfazMensaje
     // Only a file of the expected size is read whole; any other is damaged.
     if (!ec && tamano == CABECERA + LARGO * (N_ESTRELLAS + N_ESTRELLAS_NOMBRE + N_FIGURAS)) {
         std::ifstream f(std::filesystem::path(ruta), std::ios::binary);
-        bytes.assign(std::istreambuf_iterator<char>(f), {});
+        bytes.resize(static_cast<std::size_t>(tamano));
+        if (!f.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) bytes.clear();
     }
     if (Lee(bytes, c)) return;
     c.MovEstrellas.clear();

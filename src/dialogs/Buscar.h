@@ -6,7 +6,7 @@
 #include <QDialog>
 #include <array>
 
-#include "dialogs/piezas/ContextoDialogo.h"
+#include "ui/formas/ContextoDialogo.h"
 
 class QLabel;
 class QLineEdit;

@@ -5,7 +5,7 @@
 #pragma once
 #include <QDialog>
 
-#include "dialogs/piezas/ContextoDialogo.h"
+#include "ui/formas/ContextoDialogo.h"
 
 namespace vedrano {
 

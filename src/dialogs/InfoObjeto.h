@@ -6,7 +6,7 @@
 #include <QDialog>
 #include <QStringList>
 
-#include "dialogs/piezas/ContextoDialogo.h"
+#include "ui/formas/ContextoDialogo.h"
 #include "sky/apunta/ObjetoBajo.h"
 
 namespace vedrano {

@@ -104,6 +104,8 @@ void Lienzo::Redimensiona(int ancho, int alto, double proporcion) {
     // The painter draws into this buffer; stamps are written into it too.
     pixeles_ = imagen_.bits();
     linea_ = imagen_.bytesPerLine();
+    anchoImagen_ = imagen_.width();
+    altoImagen_ = imagen_.height();
     Cls();
     Escala(izquierda_, superior_, ancho_, alto_);
 }
@@ -121,15 +123,16 @@ double Lienzo::PixelesPorUnidad() const { return std::fabs(sx_); }
 
 void Lienzo::Cls() {
     pendientes_.clear();  // drawn before the clear, they would be erased
+    turno_ = 0;
     actualX_ = actualY_ = 0;
     if (vectorial_) {
         pintor_->fillRect(QRectF(0, 0, ancho_px_, alto_px_), Tono(fondo_));
         return;
     }
     const QRgb fondo = 0xFF000000u | fondo_.rgb();
-    for (int y = 0; y < imagen_.height(); ++y) {
+    for (int y = 0; y < altoImagen_; ++y) {
         auto* fila = reinterpret_cast<QRgb*>(pixeles_ + y * linea_);
-        std::fill(fila, fila + imagen_.width(), fondo);
+        std::fill(fila, fila + anchoImagen_, fondo);
     }
 }
 
@@ -170,37 +173,69 @@ bool Lienzo::FueraDeImagen(const QPointF& a, const QPointF& b, double m) const {
            (a.y() > h && b.y() > h);
 }
 
-void Lienzo::Estampa1(const QImage& s, int x0, int y0) {
-    // Source-over of a premultiplied image, with the rounding of Qt's own
+Lienzo::Estampa Lienzo::Compacta(const QImage& imagen, int dx, int dy) {
+    Estampa e{dx, dy, imagen.width(), imagen.height(), {}, {}};
+    for (int y = 0; y < imagen.height(); ++y) {
+        const auto* f = reinterpret_cast<const QRgb*>(imagen.constScanLine(y));
+        for (int x = 0; x < imagen.width();) {
+            if (qAlpha(f[x]) == 0) {
+                ++x;
+                continue;
+            }
+            Tramo t{static_cast<int16_t>(y), static_cast<int16_t>(x), 0, true,
+                    static_cast<uint32_t>(e.pixeles.size())};
+            for (; x < imagen.width() && qAlpha(f[x]) != 0; ++x, ++t.n) {
+                t.opaco = t.opaco && qAlpha(f[x]) == 255;
+                e.pixeles.push_back(f[x]);
+            }
+            e.tramos.push_back(t);
+        }
+    }
+    return e;
+}
+
+void Lienzo::Estampa1(const Estampa& s, int x0, int y0) {
+    // Source-over of premultiplied runs, with the rounding of Qt's own
     // blending so that a stamp equals the same figure drawn in place.
-    const int w = s.width(), h = s.height();
-    const int xa = std::max(0, x0), xb = std::min(imagen_.width(), x0 + w);
-    const int ya = std::max(0, y0), yb = std::min(imagen_.height(), y0 + h);
-    for (int y = ya; y < yb; ++y) {
-        const auto* f = reinterpret_cast<const QRgb*>(s.constScanLine(y - y0)) - x0;
-        auto* d = reinterpret_cast<QRgb*>(pixeles_ + y * linea_);
-        for (int x = xa; x < xb; ++x) {
+    if (x0 >= anchoImagen_ || y0 >= altoImagen_ || x0 + s.ancho <= 0 || y0 + s.alto <= 0) return;
+    for (const Tramo& t : s.tramos) {
+        const int y = y0 + t.y;
+        if (y < 0 || y >= altoImagen_) continue;
+        const int xa = std::max(0, x0 + t.x), xb = std::min(anchoImagen_, x0 + t.x + t.n);
+        if (xa >= xb) continue;
+        const QRgb* f = s.pixeles.data() + t.desde + (xa - x0 - t.x);
+        auto* d = reinterpret_cast<QRgb*>(pixeles_ + y * linea_) + xa;
+        const int n = xb - xa;
+        if (t.opaco && n > 8) {  // a short run is quicker copied below than by a call
+            std::copy(f, f + n, d);
+            continue;
+        }
+        for (int x = 0; x < n; ++x) {
             const QRgb p = f[x];
             const uint a = qAlpha(p);
-            if (a == 0) continue;
             if (a == 255) {
                 d[x] = p;
                 continue;
             }
             const uint ia = 255 - a;
-            uint t = (d[x] & 0xFF00FF) * ia;
-            t = ((t + ((t >> 8) & 0xFF00FF) + 0x800080) >> 8) & 0xFF00FF;
-            uint u = ((d[x] >> 8) & 0xFF00FF) * ia;
-            u = (u + ((u >> 8) & 0xFF00FF) + 0x800080) & 0xFF00FF00;
-            d[x] = 0xFF000000u | ((p + (t | u)) & 0xFFFFFF);
+            uint u = (d[x] & 0xFF00FF) * ia;
+            u = ((u + ((u >> 8) & 0xFF00FF) + 0x800080) >> 8) & 0xFF00FF;
+            uint v = ((d[x] >> 8) & 0xFF00FF) * ia;
+            v = (v + ((v >> 8) & 0xFF00FF) + 0x800080) & 0xFF00FF00;
+            d[x] = 0xFF000000u | ((p + (u | v)) & 0xFFFFFF);
         }
     }
 }
 
-const QImage& Lienzo::SpritePunto(int ancho, QRgb color) {
+const Lienzo::Estampa& Lienzo::SpritePunto(int ancho, QRgb color) {
     uint64_t clave = uint64_t(ancho) << 32 | (color & 0xFFFFFF);
+    if (clave == ultimoPunto_) return *ultimaEstampaPunto_;  // runs of stars share a pen
     auto it = puntos_.find(clave);
-    if (it != puntos_.end()) return it->second;
+    if (it != puntos_.end()) {
+        ultimoPunto_ = clave;
+        ultimaEstampaPunto_ = &it->second;
+        return it->second;
+    }
     // A dot pre-rendered once: drawing thousands of stars is then a stamp each.
     int lado = ancho + 2;
     QImage p = ImagenVacia(lado, lado);
@@ -213,7 +248,7 @@ const QImage& Lienzo::SpritePunto(int ancho, QRgb color) {
     else
         q.drawEllipse(QRectF(1, 1, ancho, ancho));
     q.end();
-    return puntos_.emplace(clave, std::move(p)).first->second;
+    return puntos_.emplace(clave, Compacta(p, 0, 0)).first->second;
 }
 
 void Lienzo::Punto(double x, double y) {
@@ -300,15 +335,15 @@ const Lienzo::Estampa* Lienzo::SpriteFigura(const QPointF& c, double rx, double 
     if (it != figuras_.end()) return &it->second;
     if (figuras_.size() > IMAGENES_MAXIMAS) figuras_.clear();
     const int medio = static_cast<int>(std::ceil(std::max(rx, ry))) + anchoTrazo_ + 2;
-    Estampa e{ImagenVacia(2 * medio + 1, 2 * medio + 1), -medio, -medio};
-    QPainter q(&e.imagen);
+    QImage imagen = ImagenVacia(2 * medio + 1, 2 * medio + 1);
+    QPainter q(&imagen);
     q.setRenderHint(QPainter::Antialiasing, true);
     PonPluma(Clave());  // builds the pen if it is new
     q.setPen(pintor_->pen());
     q.setBrush(Qt::NoBrush);
     DibujaFigura(q, QPointF(medio + fx, medio + fy), rx, ry, inicio, fin, arco, caja);
     q.end();
-    return &figuras_.emplace(clave, std::move(e)).first->second;
+    return &figuras_.emplace(clave, Compacta(imagen, -medio, -medio)).first->second;
 }
 
 void Lienzo::Caja(double x1, double y1, double x2, double y2, bool relleno) {
@@ -319,7 +354,7 @@ void Lienzo::Caja(double x1, double y1, double x2, double y2, bool relleno) {
     QRectF r = QRectF(APixel(x1, y1), APixel(x2, y2)).normalized();
     const Estampa* s = relleno ? nullptr : SpriteFigura(r.center(), r.width() / 2, r.height() / 2, 0, 0, false, true);
     if (s) {
-        Estampa1(s->imagen, static_cast<int>(std::floor(r.center().x())) + s->dx,
+        Estampa1(*s, static_cast<int>(std::floor(r.center().x())) + s->dx,
                  static_cast<int>(std::floor(r.center().y())) + s->dy);
         return;
     }
@@ -340,7 +375,7 @@ void Lienzo::Circulo(double x, double y, double r, double aspecto, double inicio
     double ry = rx * aspecto;
     const Estampa* s = relleno ? nullptr : SpriteFigura(c, rx, ry, inicio, fin, arco, false);
     if (s) {
-        Estampa1(s->imagen, static_cast<int>(std::floor(c.x())) + s->dx, static_cast<int>(std::floor(c.y())) + s->dy);
+        Estampa1(*s, static_cast<int>(std::floor(c.x())) + s->dx, static_cast<int>(std::floor(c.y())) + s->dy);
         return;
     }
     PonPluma(Clave());
@@ -383,19 +418,45 @@ void Lienzo::Fase(double x, double y, double r, double iluminada, double haciaSo
 void Lienzo::FijaFuente(const QFont& f) {
     fuente_ = f;
     pintor_->setFont(fuente_);
-    textos_.clear();
+    OlvidaRotulos();
     QFontMetricsF m(fuente_);
     ascenso_ = m.ascent();
     altoLinea_ = m.height();
 }
 
-const Lienzo::Estampa& Lienzo::ImagenRotulo(std::string_view texto, QRgb color, int fase) {
-    std::string clave(texto);
+void Lienzo::OlvidaRotulos() {
+    textos_.clear();
+    recuerdos_.clear();
+    turno_ = 0;
+}
+
+const Lienzo::Recuerdo& Lienzo::ImagenRotulo(std::string_view texto, QRgb color, int fase) {
+    const std::size_t hash = std::hash<std::string_view>()(texto);
+    const std::size_t turno = turno_++;
+    if (turno < recuerdos_.size()) {
+        const Recuerdo& r = recuerdos_[turno];
+        if (r.clave == hash && r.color == color && r.largo == texto.size() && r.fase == fase) return r;
+    } else {
+        recuerdos_.resize(turno + 1);
+    }
+    const Estampa& e = BuscaRotulo(texto, color, fase);
+    Recuerdo& r = recuerdos_[turno];
+    r = {hash, color, static_cast<uint32_t>(texto.size()), fase, &e, e.dx, e.dy, e.ancho, e.alto};
+    return r;
+}
+
+const Lienzo::Estampa& Lienzo::BuscaRotulo(std::string_view texto, QRgb color, int fase) {
+    // The key is built in a kept buffer: no allocation per label.
+    std::string& clave = claveTexto_;
+    clave.assign(texto);
     clave.append(reinterpret_cast<const char*>(&color), sizeof color);
     clave.push_back(static_cast<char>(fase));
     auto it = textos_.find(clave);
     if (it != textos_.end()) return it->second;
-    if (textos_.size() > IMAGENES_MAXIMAS) textos_.clear();
+    if (textos_.size() > IMAGENES_MAXIMAS) {
+        textos_.clear();
+        std::fill(recuerdos_.begin(), recuerdos_.end(), Recuerdo{});  // they pointed into it
+    }
     // A label rendered once in its colour at its phase, with room for the
     // glyphs' overhang.
     QStaticText t(QString::fromUtf8(DesdeA1252(std::string(texto))));
@@ -403,16 +464,15 @@ const Lienzo::Estampa& Lienzo::ImagenRotulo(std::string_view texto, QRgb color, 
     t.prepare(QTransform(), fuente_);
     const int margen = 4;
     QSizeF tam = t.size();
-    Estampa e{ImagenVacia(static_cast<int>(std::ceil(tam.width())) + 2 * margen,
-                          static_cast<int>(std::ceil(std::max(tam.height(), altoLinea_))) + 2 * margen),
-              -margen, -margen};
-    QPainter q(&e.imagen);
+    QImage imagen = ImagenVacia(static_cast<int>(std::ceil(tam.width())) + 2 * margen,
+                                static_cast<int>(std::ceil(std::max(tam.height(), altoLinea_))) + 2 * margen);
+    QPainter q(&imagen);
     q.setRenderHint(QPainter::TextAntialiasing, true);
     q.setFont(fuente_);
     q.setPen(QColor(color));
     q.drawStaticText(QPointF(margen + fase / FASES_TEXTO, margen), t);
     q.end();
-    return textos_.emplace(std::move(clave), std::move(e)).first->second;
+    return textos_.emplace(clave, Compacta(imagen, -margen, -margen)).first->second;
 }
 
 void Lienzo::Escribe(std::string_view cp1252, float prioridad) {
@@ -443,12 +503,12 @@ void Lienzo::Escribe(std::string_view cp1252, float prioridad) {
     }
     const double px = std::floor(p.x());
     const int fase = static_cast<int>((p.x() - px) * FASES_TEXTO);
-    const Estampa& t = ImagenRotulo(texto, tinta_.rgb(), fase);
+    const Recuerdo& t = ImagenRotulo(texto, tinta_.rgb(), fase);
     // Glyphs sit on a whole-pixel baseline, as the painter places them.
     const int x = static_cast<int>(px);
     const int y = static_cast<int>(std::lround(p.y() + ascenso_) - std::lround(ascenso_ - t.dy)) - t.dy;
     // The box of the text itself, without the image's margin.
-    const QRect caja(x, y, t.imagen.width() + 2 * t.dx, t.imagen.height() + 2 * t.dy);
+    const QRect caja(x, y, t.ancho + 2 * t.dx, t.alto + 2 * t.dy);
     if (soloMedida_) {
         rotulos_.Mide(caja, prioridad);
         return;
@@ -456,7 +516,7 @@ void Lienzo::Escribe(std::string_view cp1252, float prioridad) {
     const bool visible = caja.intersects(imagen_.rect());
     if (!rotulos_.Toca(visible) || !visible) return;
     Vacia();
-    Estampa1(t.imagen, x + t.dx, y + t.dy);
+    Estampa1(*t.estampa, x + t.dx, y + t.dy);
 }
 
 }  // namespace vedrano

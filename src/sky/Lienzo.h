@@ -101,7 +101,10 @@ public:
     RotulosPasada& Rotulos() { return rotulos_; }
     // When set, the verbs only move the pen: labels are measured and nothing
     // is drawn.
-    void FijaSoloMedida(bool s) { soloMedida_ = s; }
+    void FijaSoloMedida(bool s) {
+        soloMedida_ = s;
+        turno_ = 0;
+    }
     bool SoloMedida() const { return soloMedida_; }
 
     // Strokes the lines gathered so far.
@@ -125,26 +128,51 @@ private:
     struct HashFigura {
         std::size_t operator()(const ClaveFigura& k) const;
     };
+    // A ready-made image kept as the runs of its pixels that are not
+    // transparent, so that stamping it skips the empty margins and glyph
+    // gaps and copies the opaque runs whole.
+    struct Tramo {
+        int16_t y, x, n;
+        bool opaco;
+        uint32_t desde;  // index of its first pixel in `pixeles`
+    };
     struct Estampa {
-        QImage imagen;
         int dx = 0, dy = 0;  // offset of the image from the anchor pixel
+        int ancho = 0, alto = 0;
+        std::vector<Tramo> tramos;
+        std::vector<QRgb> pixeles;  // premultiplied
+    };
+    static Estampa Compacta(const QImage& imagen, int dx, int dy);
+    // The label printed at one turn of a run of the pass, with its box: the
+    // next run and the next pass print the same labels in the same order,
+    // so most are found here without searching the cache.
+    struct Recuerdo {
+        std::size_t clave = 0;  // hash of the text
+        QRgb color = 0;
+        uint32_t largo = 0;
+        int fase = -1;
+        const Estampa* estampa = nullptr;
+        int dx = 0, dy = 0, ancho = 0, alto = 0;
     };
     ClavePluma Clave() const { return {tinta_.rgba(), anchoTrazo_, estilo_}; }
     QColor Tono(const QColor& c) const { return paraTinta_ ? ColorParaTinta(c) : c; }
     void PreparaPintor();
     void PonPluma(const ClavePluma& k) const;
     bool FueraDeImagen(const QPointF& a, const QPointF& b, double margen) const;
-    void Estampa1(const QImage& s, int x, int y);
-    const QImage& SpritePunto(int ancho, QRgb color);
+    void Estampa1(const Estampa& s, int x, int y);
+    const Estampa& SpritePunto(int ancho, QRgb color);
     const Estampa* SpriteFigura(const QPointF& c, double rx, double ry, double inicio, double fin, bool arco,
                                 bool caja);
-    const Estampa& ImagenRotulo(std::string_view texto, QRgb color, int fase);
+    const Recuerdo& ImagenRotulo(std::string_view texto, QRgb color, int fase);
+    const Estampa& BuscaRotulo(std::string_view texto, QRgb color, int fase);
+    void OlvidaRotulos();
     void DibujaFigura(QPainter& p, const QPointF& c, double rx, double ry, double inicio, double fin, bool arco,
                       bool caja) const;
 
     QImage imagen_;
     uchar* pixeles_ = nullptr;
     qsizetype linea_ = 0;
+    int anchoImagen_ = 0, altoImagen_ = 0;  // device pixels
     std::unique_ptr<QPainter> propio_;
     QPainter* pintor_ = nullptr;  // propio_, or the device's painter
     bool vectorial_ = false, paraTinta_ = false;
@@ -166,9 +194,14 @@ private:
     mutable ClavePluma clavePuesta_{0, 0, -1};
     mutable std::unordered_map<uint64_t, QPen> plumas_;
 
-    std::unordered_map<uint64_t, QImage> puntos_;
+    std::unordered_map<uint64_t, Estampa> puntos_;
+    uint64_t ultimoPunto_ = ~uint64_t{0};
+    const Estampa* ultimaEstampaPunto_ = nullptr;
     std::unordered_map<ClaveFigura, Estampa, HashFigura> figuras_;
     std::unordered_map<std::string, Estampa> textos_;
+    std::string claveTexto_;
+    std::vector<Recuerdo> recuerdos_;
+    std::size_t turno_ = 0;  // labels asked for in this run
     double ascenso_ = 0, altoLinea_ = 0;
     RotulosPasada rotulos_;
 };

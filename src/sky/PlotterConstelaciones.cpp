@@ -15,6 +15,7 @@ void DibujaConstelaciones(Contexto& x) {
     int16_t estilo = static_cast<int16_t>(x.l.EstiloTrazo());
     x.l.FijaColor(ColorVB(COLOR_FIGURAS));
     int n = CuentaNivel(x.c.TablasCuentas.Figuras, e.NivelConstelaciones);
+    if (x.l.SoloMedida()) n = -1;  // a measuring run wants the names only
     PuntoProyectado anterior;
     // The figures join the stars where they are drawn.
     const DireccionesEnFecha vertices(x.c.MovFiguras, AnosMovimientoPropio(e));

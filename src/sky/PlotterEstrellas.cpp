@@ -10,6 +10,8 @@ void DibujaEstrellas(Contexto& x) {
     const Estado& e = x.e;
     float magnitudRecordada = -9.0f;
     int claseRecordada = -1;  // the first star always sets the colour
+    const QColor colores[4] = {ColorVB(e.ColoresEstrellas[0]), ColorVB(e.ColoresEstrellas[1]),
+                               ColorVB(e.ColoresEstrellas[2]), ColorVB(e.ColoresEstrellas[3])};
     // A measuring run needs the labels only.
     int n = x.l.SoloMedida() ? -1 : CuentaNivel(x.c.TablasCuentas.Estrellas, e.NivelEstrellas);
     const double anos = AnosMovimientoPropio(e);
@@ -24,7 +26,7 @@ void DibujaEstrellas(Contexto& x) {
             magnitudRecordada = s.Magnitud;
         }
         if (s.Tipo != claseRecordada) {
-            x.l.FijaColor(ColorVB(e.ColoresEstrellas[static_cast<std::size_t>(s.Tipo & 3)]));
+            x.l.FijaColor(colores[s.Tipo & 3]);
             claseRecordada = s.Tipo;
         }
         x.l.Punto(p.X, p.Y);

@@ -61,7 +61,9 @@ void DibujaRejilla(Contexto& x, int pasoGrados) {
     static const Rejilla r15 = ConstruyeRejilla(15), r30 = ConstruyeRejilla(30);
     const Rejilla& r = pasoGrados == 15 ? r15 : r30;
     x.l.FijaColor(ColorVB(pasoGrados == 15 ? 0x603818 : 0x905828));
-    for (const auto& linea : r.lineas) Polilinea(x, linea);
+    // A measuring run wants the labels only.
+    if (!x.l.SoloMedida())
+        for (const auto& linea : r.lineas) Polilinea(x, linea);
     // Hours along the equator, degrees along the meridian of 0h.
     x.l.FijaColor(ColorVB(0xC09060));
     for (int a = 0; a < 360; a += pasoGrados) Rotula(x, AngulosAVector(a * GRADO, 0), std::to_string(a / 15) + "h");
@@ -71,6 +73,7 @@ void DibujaRejilla(Contexto& x, int pasoGrados) {
 }
 
 void DibujaLimites(Contexto& x) {
+    if (x.l.SoloMedida()) return;  // no labels
     // Boundaries are catalogue (J2000) lines, dotted and faint.
     x.l.FijaColor(ColorVB(0x707070));
     int16_t estilo = -1;
@@ -100,12 +103,14 @@ void DibujaEcliptica(Contexto& x) {
         }
         return v;
     }();
+    if (x.l.SoloMedida()) return;  // no labels
     x.l.FijaColor(ColorVB(0x00B0E0));  // amber
     Polilinea(x, puntos);
     x.l.FijaColor(ColorVB(0xFFFFFF));
 }
 
 void DibujaViaLactea(Contexto& x) {
+    if (x.l.SoloMedida()) return;  // no labels
     x.l.FijaColor(ColorVB(0x907060));
     int16_t estilo = static_cast<int16_t>(x.l.EstiloTrazo());
     bool nuevo = true;

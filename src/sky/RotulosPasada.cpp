@@ -56,7 +56,9 @@ void RotulosPasada::Resuelve() {
     std::stable_sort(orden.begin(), orden.end(), [&](int a, int b) {
         return medidos_[static_cast<std::size_t>(a)].prioridad > medidos_[static_cast<std::size_t>(b)].prioridad;
     });
-    celdas_.assign(static_cast<std::size_t>(columnas_ * filas_), {});
+    // The cells keep their storage from pass to pass: emptied, not remade.
+    celdas_.resize(static_cast<std::size_t>(columnas_ * filas_));
+    for (auto& celda : celdas_) celda.clear();
     gana_.assign(medidos_.size(), 0);
     const QRect imagen(0, 0, ancho_, alto_);
     for (int i : orden) {

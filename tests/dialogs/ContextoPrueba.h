@@ -9,7 +9,7 @@
 #include "app/base/Texto1252.h"
 #include "app/estado/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
-#include "dialogs/piezas/ContextoDialogo.h"
+#include "ui/formas/ContextoDialogo.h"
 #include "sky/DibujaCielo.h"
 
 namespace pruebas {

@@ -46,6 +46,9 @@ struct Ventana {
     std::unique_ptr<Cielo> cielo;
     Ventana() {
         e.FechaJuliana = 2460700.5;
+        dialogos.Mensaje = [this](QWidget* p, const std::string& t, const std::string& ti, int16_t b, int16_t i) {
+            return MuestraMensaje(e, p, t, ti, b, i);
+        };
         cielo = std::make_unique<Cielo>(e, Datos(), dialogos);
         cielo->ActualizaCielo();
     }

@@ -22,6 +22,7 @@
 #include "dialogs/Hora.h"
 #include "dialogs/Locali.h"
 #include "dialogs/piezas/Mensajes.h"
+#include "dialogs/piezas/MensajesVentana.h"
 #include "dialogs/Objetos.h"
 #include "dialogs/Personal.h"
 #include "sky/DibujaCielo.h"
@@ -55,6 +56,9 @@ protected:
         d.Hora = AbreHora;
         d.Objetos = AbreObjetos;
         d.Animar = AbreAnimar;
+        d.Mensaje = [this](QWidget* p, const std::string& t, const std::string& ti, int16_t b, int16_t i) {
+            return MuestraMensaje(e, p, t, ti, b, i);
+        };
         cielo = std::make_unique<Cielo>(e, Datos(), d);
         cielo->show();
         cielo->ActualizaCielo();

@@ -28,6 +28,8 @@ DialogosCielo Dialogos(Estado& e) {
     d.Ayuda = [&e](QWidget* padre, int tema) { MuestraAyuda(e, padre, tema); };
     d.TemaDe = TemaDeForma;
     d.Informacion = AbreInfoObjeto;
+    d.Mensaje = [&e](QWidget* padre, const std::string& texto, const std::string& titulo, int16_t botones,
+                     int16_t icono) { return MuestraMensaje(e, padre, texto, titulo, botones, icono); };
     return d;
 }
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/piezas/ContextoDialogo.h"
+#include "ui/formas/ContextoDialogo.h"
 #include "ui/controles/ControlDibujado.h"
 
 class QBoxLayout;

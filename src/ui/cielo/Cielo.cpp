@@ -59,7 +59,7 @@ Cielo::Cielo(Estado& e, const Catalogos& c, DialogosCielo dialogos)
     : e_(e),
       c_(c),
       dialogos_(std::move(dialogos)),
-      mensajes_(e, this),
+      mensajes_(dialogos_, this),
       contexto_{e, c, mensajes_, this, {}, {}, {}, {}, {}, true} {
     setWindowTitle("VEDRANO");
     setFont(controles::FuenteControles());

@@ -11,8 +11,8 @@
 
 #include "app/estado/Estado.h"
 #include "catalogue/Catalogos.h"
-#include "dialogs/piezas/ContextoDialogo.h"
-#include "dialogs/piezas/MensajesVentana.h"
+#include "app/base/InterfazMensajes.h"
+#include "ui/formas/ContextoDialogo.h"
 #include "sky/apunta/ObjetoBajo.h"
 
 class QScrollArea;
@@ -29,12 +29,30 @@ class SubBaj;
 class Pulsador;
 }  // namespace controles
 
-// The entry functions of the dialogs, filled by the start-up.
+// The entry functions of the dialogs and the message box, filled by the
+// start-up: the window opens forms only through these.
 struct DialogosCielo {
     std::function<void(ContextoDialogo&)> CargaGuar, Personal, Locali, Hora, Objetos, Buscar, Impresor, Animar;
     std::function<void(QWidget*, int)> Ayuda;  // the help window at a topic
     std::function<int(QWidget*)> TemaDe;       // the help topic of a form (0: the main window's)
     std::function<void(ContextoDialogo&, const ObjetoSenalado&)> Informacion;  // an object's form
+    // The message box centred on a window; returns the answer (0 cancel).
+    std::function<int16_t(QWidget*, const std::string&, const std::string&, int16_t, int16_t)> Mensaje;
+};
+
+// The window's message port: the message box of DialogosCielo centred on
+// the window. Unwired (a window under test), nobody is asked and the answer
+// is cancel.
+class MensajesCielo : public InterfazMensajes {
+public:
+    MensajesCielo(const DialogosCielo& d, QWidget* ventana) : d_(d), ventana_(ventana) {}
+    int16_t Mensaje(const std::string& texto, const std::string& titulo, int16_t botones, int16_t icono) override {
+        return d_.Mensaje ? d_.Mensaje(ventana_, texto, titulo, botones, icono) : 0;
+    }
+
+private:
+    const DialogosCielo& d_;
+    QWidget* ventana_;
 };
 
 class Cielo : public QWidget {
@@ -44,7 +62,7 @@ public:
     ~Cielo() override;
 
     VistaCielo& Vista() { return *vista_; }
-    MensajesVentana& Mensajes() { return mensajes_; }
+    InterfazMensajes& Mensajes() { return mensajes_; }
     ContextoDialogo& Contexto() { return contexto_; }
 
     // Recompute everything and redraw (start-up, loaded configurations).
@@ -97,7 +115,7 @@ private:
     Estado& e_;
     const Catalogos& c_;
     DialogosCielo dialogos_;
-    MensajesVentana mensajes_;
+    MensajesCielo mensajes_;
     ContextoDialogo contexto_;
     VistaCielo* vista_ = nullptr;
     QScrollArea* columna_ = nullptr;
