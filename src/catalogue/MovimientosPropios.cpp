@@ -70,8 +70,8 @@ Vector3f MovimientoAnual(const Vector3f& v, double pmAR, double pmDec) {
             static_cast<float>(x / cd * e - z / cd * y * n)};
 }
 
-Vector3f DireccionesEnFecha::Mueve(const Vector3f& v, const Vector3f& m) const {
-    const double x = v.x + anos_ * m.x, y = v.y + anos_ * m.y, z = v.z + anos_ * m.z;
+Vector3f MueveDireccion(const Vector3f& v, const Vector3f& m, double anos) {
+    const double x = v.x + anos * m.x, y = v.y + anos * m.y, z = v.z + anos * m.z;
     const double r = std::sqrt(x * x + y * y + z * z);
     return {static_cast<float>(x / r), static_cast<float>(y / r), static_cast<float>(z / r)};
 }

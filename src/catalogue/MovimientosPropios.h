@@ -30,21 +30,27 @@ void CargaMovimientos(const std::string& dirDatos, Catalogos& c, InterfazMensaje
 //   defined) it returns no motion.
 Vector3f MovimientoAnual(const Vector3f& v, double pmAR, double pmDec);
 
+// MueveDireccion
+//   Given: v a unit direction, movimiento its change per Julian year (as
+//          MovimientoAnual gives it), anos the years from J2000.
+//   Returns the direction at that date: on a straight line across the
+//   sky's tangent plane, as a star of unknown distance and radial
+//   velocity moves.
+Vector3f MueveDireccion(const Vector3f& v, const Vector3f& movimiento, double anos);
+
 // The directions of one table at a date: each record's own moved by its
-// motion, on a straight line across the sky's tangent plane (as a star of
-// unknown distance and radial velocity), or the record's as it stands when
-// the table has no motions or `anos` is 0.
+// motion, or the record's as it stands when the table has no motions or
+// `anos` is 0.
 class DireccionesEnFecha {
 public:
     DireccionesEnFecha(const std::vector<Vector3f>& movimientos, double anos)
         : mov_(movimientos), anos_(static_cast<float>(anos)) {}
     Vector3f operator()(std::size_t i, const Vector3f& v) const {
         if (anos_ == 0 || i >= mov_.size()) return v;
-        return Mueve(v, mov_[i]);
+        return MueveDireccion(v, mov_[i], anos_);
     }
 
 private:
-    Vector3f Mueve(const Vector3f& v, const Vector3f& m) const;
     const std::vector<Vector3f>& mov_;
     float anos_;
 };

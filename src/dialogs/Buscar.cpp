@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QVBoxLayout>
 
+#include "app/base/Cursores.h"
 #include "app/base/ErrorEjecucion.h"
 #include "app/base/Texto1252.h"
 #include "catalogue/CategoriasLista.h"
@@ -314,22 +315,22 @@ void Buscar::busca() {
     QListWidgetItem* item = l->currentItem();
     const int linea = item && item->isSelected() && !item->isHidden() ? l->row(item) : -1;
     Estado& e = ctx_.e;
-    controles::FijaCursor(e, this, 11);  // the wait pointer while the target is computed
+    controles::FijaCursor(e, this, cursor::Espera);  // while the target is computed
     try {
         FijaObjetivo(e, ctx_.c, categoria_, linea);
     } catch (const ErrorEjecucion& err) {
-        controles::FijaCursor(e, this, 0);
+        controles::FijaCursor(e, this, cursor::Normal);
         MuestraMensaje(e, this, A1252("ERROR BUS" + std::to_string(err.numero()) + ": línea fuera de la lista"),
                        "Buscar Objetos", 1, 1);
         return;
     }
     if (e.ObjetivoAR == 0.0 && e.ObjetivoDEC == 0.0) {
-        controles::FijaCursor(e, this, 0);
+        controles::FijaCursor(e, this, cursor::Normal);
         return;
     }
     e.Centrado = false;
     CentraObjeto(e, ctx_.c.TablaPlanetas, ctx_.mensajes);
-    controles::FijaCursor(e, this, 0);
+    controles::FijaCursor(e, this, cursor::Normal);
     if (e.Centrado) {
         e.Cambiado = true;
         done(QDialog::Accepted);
@@ -389,8 +390,8 @@ bool Buscar::eventFilter(QObject* objeto, QEvent* ev) {
         if (ev->type() == QEvent::MouseButtonRelease && categoria_ >= 0) muestraIndice();
         return QDialog::eventFilter(objeto, ev);
     }
-    if (ev->type() == QEvent::MouseMove && ctx_.e.CursorActual != 21)
-        controles::FijaCursor(ctx_.e, static_cast<QWidget*>(objeto), 21);
+    if (ev->type() == QEvent::MouseMove && ctx_.e.CursorActual != cursor::ManoIndice)
+        controles::FijaCursor(ctx_.e, static_cast<QWidget*>(objeto), cursor::ManoIndice);
     return QDialog::eventFilter(objeto, ev);
 }
 

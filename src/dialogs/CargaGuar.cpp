@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 
+#include "app/base/TablasControles.h"
 #include "app/base/Texto1252.h"
 #include "config/EscribeConfiguracion.h"
 #include "config/LeeConfiguracion.h"
@@ -53,10 +54,10 @@ CargaGuar::CargaGuar(ContextoDialogo& ctx)
     : MarcoOpciones(ctx, "Mantenimiento de configuraciones", "Configuraciones", 1040),
       lista_(new QListWidget),
       nombre_(new QLineEdit),
-      cargar_(new Pulsador(ctx.e, 48)),
-      guardar_(new Pulsador(ctx.e, 49)),
-      borrar_(new Pulsador(ctx.e, 50)),
-      animacion_(new Interruptor(ctx.e, 10)) {
+      cargar_(new Pulsador(ctx.e, control::Cargar)),
+      guardar_(new Pulsador(ctx.e, control::Guardar)),
+      borrar_(new Pulsador(ctx.e, control::Borrar)),
+      animacion_(new Interruptor(ctx.e, control::IncluirAnimacion)) {
     Estado& e = ctx.e;
     lista_->setAccessibleName(QStringLiteral("Configuraciones"));
     nombre_->setAccessibleName(QStringLiteral("Nombre de la configuración"));

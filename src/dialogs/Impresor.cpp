@@ -9,6 +9,8 @@
 #include <QPrinterInfo>
 #include <QVBoxLayout>
 
+#include "app/base/Cursores.h"
+#include "app/base/TablasControles.h"
 #include "app/base/Texto1252.h"
 #include "dialogs/piezas/Mensajes.h"
 #include "dialogs/piezas/PiezasForma.h"
@@ -33,16 +35,16 @@ Impresor::Impresor(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre
     setWindowTitle(QStringLiteral("Imprimir"));
     setFont(controles::FuenteControles());
 
-    ancho_ = new Spin(e, 34, this);
+    ancho_ = new Spin(e, control::AnchoImpresion, this);
     ancho_->setValor(e.AnchoMm);
     ancho_->setAlmacen([&e](float v) { e.AnchoMm = static_cast<int16_t>(v); });
-    alto_ = new Spin(e, 35, this);
+    alto_ = new Spin(e, control::AltoImpresion, this);
     alto_->setValor(e.AltoMm);
     alto_->setAlmacen([&e](float v) { e.AltoMm = static_cast<int16_t>(v); });
-    enPantalla_ = new Interruptor(e, 2, this);
+    enPantalla_ = new Interruptor(e, control::ImagenEnPantalla, this);
     enPantalla_->setEncendido(e.ImagenEnPantalla);
     connect(enPantalla_, &Interruptor::cambiado, this, [&e](bool si) { e.ImagenEnPantalla = si; });
-    localizacion_ = new Interruptor(e, 13, this);
+    localizacion_ = new Interruptor(e, control::IncluirLocalizacion, this);
     localizacion_->setEncendido(e.DatosLocalizacion);
     connect(localizacion_, &Interruptor::cambiado, this, [&e](bool si) { e.DatosLocalizacion = si; });
 
@@ -97,9 +99,9 @@ void Impresor::imprime() {
     QPrintDialog dialogo(&impresora, this);
     dialogo.setWindowTitle(QStringLiteral("Imprimir el cielo"));
     if (dialogo.exec() != QDialog::Accepted) return;
-    controles::FijaCursor(ctx_.e, this, 11);
+    controles::FijaCursor(ctx_.e, this, cursor::Espera);
     const bool bien = ImprimePagina(impresora, ctx_.e, ctx_.c);
-    controles::FijaCursor(ctx_.e, this, 0);
+    controles::FijaCursor(ctx_.e, this, cursor::Normal);
     if (!bien) {
         MuestraMensaje(ctx_.e, this, A1252("No se ha podido imprimir: la impresora no responde"), "Imprimir", 1, 1);
         return;

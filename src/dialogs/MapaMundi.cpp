@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "app/base/Constantes.h"
+#include "app/base/Cursores.h"
 #include "ui/controles/ControlDibujado.h"
 #include "ui/controles/Estilo.h"
 
@@ -149,8 +150,8 @@ void MapaMundi::paintEvent(QPaintEvent*) {
 
 void MapaMundi::mouseMoveEvent(QMouseEvent* ev) {
     const bool dentro = area().contains(ev->position());
-    const int16_t cursor = dentro ? 21 : 0;
-    if (e_.CursorActual != cursor) controles::FijaCursor(e_, this, cursor);
+    const int16_t puntero = dentro ? cursor::ManoIndice : cursor::Normal;
+    if (e_.CursorActual != puntero) controles::FijaCursor(e_, this, puntero);
 }
 
 void MapaMundi::mouseReleaseEvent(QMouseEvent* ev) {

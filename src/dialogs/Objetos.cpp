@@ -5,6 +5,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "app/base/TablasControles.h"
 #include "ui/controles/Interruptor.h"
 #include "ui/controles/Spin.h"
 
@@ -43,14 +44,14 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
     Interruptores& s = e.Capas;
 
     auto* estrellas = new Grupo("Estrellas");
-    nuevoSpin(estrellas->contenido(), 32, e.NivelEstrellas);
+    nuevoSpin(estrellas->contenido(), control::MagnitudMinima, e.NivelEstrellas);
     idEstrellas_ = nuevasOpciones(estrellas->contenido(), {"Sin identificar", "C\xF3" "digo", "Nombre"},
                                   e.IdEstrellas);
     // Program preferences, not items of a configuration.
     if (ctx.preferenciasDibujo) nuevaPreferencia(estrellas->contenido(), "Estrellas d\xE9" "biles", e.Pref.EstrellasDebiles);
 
     auto* constelaciones = new Grupo("Constelaciones");
-    nuevoSpin(constelaciones->contenido(), 33, e.NivelConstelaciones);
+    nuevoSpin(constelaciones->contenido(), control::NivelConstelaciones, e.NivelConstelaciones);
     idConstelaciones_ = nuevasOpciones(constelaciones->contenido(),
                                        {"Sin identificar", "Abreviatura", "Nombre castellano", "Nombre latino"},
                                        e.IdConstelaciones);
@@ -67,11 +68,11 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
         int indice;
         int16_t& nivel;
     } categorias[] = {
-        {"Galaxias", s.Galax, 19, e.NivelGalaxias},
-        {"Nebul.Planet.", s.NebPl, 20, e.NivelNebPlanetarias},
-        {"Nebul.Difusas", s.NebDi, 21, e.NivelNebDifusas},
-        {"C\xFA" "m.Abiertos", s.CumAb, 22, e.NivelCumAbiertos},
-        {"C\xFA" "m.Globular.", s.CumGl, 23, e.NivelCumGlobulares},
+        {"Galaxias", s.Galax, control::NivelGalaxias, e.NivelGalaxias},
+        {"Nebul.Planet.", s.NebPl, control::NivelNebPlanetarias, e.NivelNebPlanetarias},
+        {"Nebul.Difusas", s.NebDi, control::NivelNebDifusas, e.NivelNebDifusas},
+        {"C\xFA" "m.Abiertos", s.CumAb, control::NivelCumAbiertos, e.NivelCumAbiertos},
+        {"C\xFA" "m.Globular.", s.CumGl, control::NivelCumGlobulares, e.NivelCumGlobulares},
     };
     std::vector<Spin*> niveles;
     for (const auto& c : categorias) {
@@ -87,7 +88,7 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
     nuevaCasilla(profundo->contenido(), "Qu\xE1" "sares", s.Quasa);
     nuevaCasilla(profundo->contenido(), "P\xFA" "lsares", s.Pulsa);
     nuevaCasilla(profundo->contenido(), "Agujeros Negros", s.Aguje);
-    identificar_ = new Interruptor(e, 12);
+    identificar_ = new Interruptor(e, control::IdentificarObjetos);
     identificar_->setEncendido(e.IdentificarObjetos);
     identificar_->setMinimumWidth(identificar_->sizeHint().width());
     connect(identificar_, &Interruptor::cambiado, this, [&e](bool si) { e.IdentificarObjetos = si; });

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "app/base/Constantes.h"
 #include "app/base/TablasControles.h"
 #include "config/Preferencias.h"
 #include "ui/controles/Estilo.h"
@@ -30,9 +31,9 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
     Estado& e = ctx.e;
 
     auto* interfaz = new Grupo("Manejo");
-    nuevoInterruptor(interfaz->contenido(), 9, e.Sonido);
-    nuevoInterruptor(interfaz->contenido(), 17, e.AnimarTrasCambio);
-    velocidad_ = new Potenciometro(e, 15);
+    nuevoInterruptor(interfaz->contenido(), control::Sonido, e.Sonido);
+    nuevoInterruptor(interfaz->contenido(), control::AnimarTrasCambio, e.AnimarTrasCambio);
+    velocidad_ = new Potenciometro(e, control::Velocidad);
     velocidad_->setPosicion(e.Velocidad);
     velocidad_->setFixedSize(velocidad_->sizeHint());
     connect(velocidad_, &Potenciometro::posicionCambiada, this,
@@ -41,42 +42,43 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
 
     auto* cielo = new Grupo("Cielo");
     // Mirrored is any value but 1; the selector shows it as its second choice.
-    orientacion_ = new Selector(e, 16, {Etiqueta(39), Etiqueta(40)});
+    orientacion_ = new Selector(e, control::OrientacionCielo,
+                                {Etiqueta(control::CieloNormal), Etiqueta(control::CieloInvertido)});
     orientacion_->setEleccion(e.Orientacion == 1 ? 1 : 2);
     connect(orientacion_, &Selector::eleccionCambiada, this, [this, &e](int eleccion) {
         e.Orientacion = static_cast<int16_t>(eleccion == 1 ? 1 : 2);
         if (ctx_.DibujaCielo) ctx_.DibujaCielo();
     });
     cielo->contenido()->addWidget(orientacion_);
-    nuevoInterruptor(cielo->contenido(), 7, e.Precesion);
+    nuevoInterruptor(cielo->contenido(), control::Precesion, e.Precesion);
     precisionAlta_ = nuevaPreferencia(cielo->contenido(), "Precisi\xF3n alta", e.Pref.PrecisionAlta);
     // The telescope circle and its field, shown in degrees and kept in radians.
-    nuevoInterruptor(cielo->contenido(), 8, e.Telescopio);
-    auto* campo = new Spin(e, 24);
-    campo->setValor(static_cast<float>(e.CampoTelescopio * 57.29577951289617));
+    nuevoInterruptor(cielo->contenido(), control::Telescopio, e.Telescopio);
+    auto* campo = new Spin(e, control::DiametroTelescopio);
+    campo->setValor(static_cast<float>(e.CampoTelescopio * RAD_A_GRADOS));
     campo->setAlmacen([&e](float grados) {
         // Only a new value is stored: the tenths of a degree shown are a
         // rounding of the radians kept.
-        if (std::fabs(grados - e.CampoTelescopio * 57.29577951289617) > 0.01)
-            e.CampoTelescopio = grados / 57.29577951289617;
+        if (std::fabs(grados - e.CampoTelescopio * RAD_A_GRADOS) > 0.01)
+            e.CampoTelescopio = grados / RAD_A_GRADOS;
     });
     cielo->contenido()->addWidget(campo);
 
     auto* ventana = new Grupo("Ventana");
-    nuevoInterruptor(ventana->contenido(), 3, e.PanelControl);
-    nuevoInterruptor(ventana->contenido(), 5, e.PanelLocalizacion);
-    nuevoInterruptor(ventana->contenido(), 6, e.PanelObjetos);
+    nuevoInterruptor(ventana->contenido(), control::PanelControl, e.PanelControl);
+    nuevoInterruptor(ventana->contenido(), control::PanelLocalizacion, e.PanelLocalizacion);
+    nuevoInterruptor(ventana->contenido(), control::PanelObjetos, e.PanelObjetos);
 
     auto* horas = new Grupo("Fecha y hora");
-    formatoHora_ = new Selector(e, 1, {Etiqueta(37), Etiqueta(38)});
+    formatoHora_ = new Selector(e, control::FormatoHora, {Etiqueta(control::Hora24), Etiqueta(control::HoraAmPm)});
     formatoHora_->setEleccion(e.FormatoHora == 1 ? 1 : 2);
     connect(formatoHora_, &Selector::eleccionCambiada, this,
             [&e](int eleccion) { e.FormatoHora = static_cast<int16_t>(eleccion == 1 ? 1 : 2); });
     horas->contenido()->addWidget(formatoHora_);
 
     auto* cursor = new Grupo("Cursor");
-    nuevoInterruptor(cursor->contenido(), 4, e.PanelCursor);
-    nuevoInterruptor(cursor->contenido(), 18, e.Marcar);
+    nuevoInterruptor(cursor->contenido(), control::PanelCursor, e.PanelCursor);
+    nuevoInterruptor(cursor->contenido(), control::MarcarObjetos, e.Marcar);
 
     auto* izquierda = new QVBoxLayout;
     izquierda->addWidget(interfaz);

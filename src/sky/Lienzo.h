@@ -17,6 +17,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPen>
+#include <cmath>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -154,6 +155,14 @@ private:
         const Estampa* estampa = nullptr;
         int dx = 0, dy = 0, ancho = 0, alto = 0;
     };
+    // Ready-made symbols are kept for a sixteenth-pixel grid of positions,
+    // labels for a sixteenth of a pixel across (glyphs are placed at
+    // fractions of a pixel horizontally, on whole pixels vertically).
+    static constexpr double FASES = 16, FASES_TEXTO = 16;
+    // Nothing this far off the picture can be seen. A damaged catalogue can
+    // project to huge places or to no number at all; leaving those out keeps
+    // every conversion to whole pixels defined.
+    static bool Dibujable(const QPointF& p) { return std::fabs(p.x()) < 1e6 && std::fabs(p.y()) < 1e6; }
     ClavePluma Clave() const { return {tinta_.rgba(), anchoTrazo_, estilo_}; }
     QColor Tono(const QColor& c) const { return paraTinta_ ? ColorParaTinta(c) : c; }
     void PreparaPintor();

@@ -21,6 +21,7 @@
 #include "catalogue/MovimientosPropios.h"
 #include "sky/DibujaCielo.h"
 #include "sky/apunta/Apunta.h"
+#include "sky/apunta/DiaObjeto.h"
 #include "sky/apunta/ObjetoBajo.h"
 #include "sky/proyeccion/Proyeccion.h"
 
@@ -164,6 +165,26 @@ TEST(MovimientosPropios, ElModoPrecisoDibujaYSenalaLaEstrellaMovida) {
     ActualizaCielo(dibujo, c, l);
     ActualizaCielo(dibujo, sinMovimientos, otro);
     EXPECT_TRUE(l.Imagen() == otro.Imagen());
+}
+
+// The day of Arcturus chosen from the star list in 7000 AD follows its
+// moved place: its rising, transit and setting are those of the place
+// worked by hand above.
+TEST(MovimientosPropios, ElDiaDeUnaEstrellaDeLaListaSigueSuMovimiento) {
+    const Catalogos& c = Datos();
+    Estado e = MirandoA(c, Arturo(c), ERFA_DJ00 + 5000 * 365.25, 1);
+    int linea = -1;
+    for (std::size_t k = 0; k < c.IndiceListaEstrellas.size(); ++k)
+        if (c.TablaEstrellasNombre[static_cast<std::size_t>(c.IndiceListaEstrellas[k])].Designacion.texto().rfind("Alf Boo", 0) == 0)
+            linea = static_cast<int>(k);
+    ObjetoDelDia o;
+    ASSERT_TRUE(ObjetoDeLista(c, 3, linea, o));
+    const DiaObjeto lista = HallaDia(e, c.TablaPlanetas, o);
+    const DiaObjeto mano = HallaDia(e, c.TablaPlanetas, {0, 212.33450 * ERFA_DD2R, 16.40080 * ERFA_DD2R});
+    for (auto evento : {&OrtoTransitoOcaso::orto, &OrtoTransitoOcaso::transito, &OrtoTransitoOcaso::ocaso}) {
+        ASSERT_TRUE((lista.horizonte.*evento).hay && (mano.horizonte.*evento).hay);
+        EXPECT_NEAR((lista.horizonte.*evento).jd, (mano.horizonte.*evento).jd, 0.5 / 1440);
+    }
 }
 
 // The cursor reads a star's true altitude: the inverse takes off the lift

@@ -10,6 +10,7 @@
 #include "CatalogosPrueba.h"
 #include "Falsos.h"
 #include "app/base/Constantes.h"
+#include "app/base/Cursores.h"
 #include "app/base/Formato.h"
 #include "app/base/Texto1252.h"
 #include "catalogue/CargaCatalogos.h"
@@ -58,7 +59,7 @@ struct Ventana {
         falsos.reloj.alDormir = [this, pasos, &siestas](int) {
             if (++siestas >= 2 * pasos) e.Sujecion = false;
         };
-        e.CursorActual = 21;
+        e.CursorActual = cursor::ManoIndice;
         cielo->SubBajHaPulsado(i, x);
         falsos.reloj.alDormir = nullptr;
     }
@@ -110,7 +111,7 @@ TEST(Cielo, TimeArrowsStepAndAreRefusedInRealTime) {
         if (++siestas == 2) trasPrimerPaso = v.e.Panel.DiaJuliano;
         if (siestas >= 4) v.e.Sujecion = false;
     };
-    v.e.CursorActual = 21;
+    v.e.CursorActual = cursor::ManoIndice;
     v.cielo->SubBajHaPulsado(4, 12);  // left: backward
     v.falsos.reloj.alDormir = nullptr;
     EXPECT_DOUBLE_EQ(v.e.FechaJuliana, antes - 2);
@@ -123,7 +124,7 @@ TEST(Cielo, TimeArrowsStepAndAreRefusedInRealTime) {
     Contestador c;
     c.Prepara(Qt::Key_Return);
     antes = v.e.FechaJuliana;
-    v.e.CursorActual = 21;
+    v.e.CursorActual = cursor::ManoIndice;
     emit v.cielo->SubBaj(4)->pulsado(40);
     EXPECT_TRUE(c.visto);
     EXPECT_EQ(v.e.FechaJuliana, antes);

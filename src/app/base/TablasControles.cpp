@@ -67,27 +67,27 @@ const std::array<std::string, NUM_ETIQUETAS> ETIQUETAS = {
 // Records not listed belong to switches and push buttons: a Boolean.
 FormatoValor Registro(int i) {
     switch (i) {
-        case 1: return {1.0f, 2.0f, 1.0f, "0", true};  // hour format choice: 1 24 hours, 2 AM/PM
-        case 15: return {0.0f, 100.0f, 1.0f, "##0", false};  // speed
-        case 16: return {1.0f, 2.0f, 1.0f, "0", true};  // sky orientation choice: 1 normal, 2 mirrored
-        case 19: return {1.0f, 4.0f, 1.0f, "0", false};  // galaxy detail level
-        case 20: return {1.0f, 2.0f, 1.0f, "0", false};  // planetary nebula detail level
-        case 21: return {1.0f, 2.0f, 1.0f, "0", false};  // diffuse nebula detail level
-        case 22: return {1.0f, 2.0f, 1.0f, "0", false};  // open cluster detail level
-        case 23: return {1.0f, 2.0f, 1.0f, "0", false};  // globular cluster detail level
-        case 24: return {0.5f, 30.0f, 0.5f, "#0.0", false};  // telescope field, degrees
-        case 25: return {-180.0f, 180.0f, 0.5f, "##0.0", true};  // longitude, degrees west positive
-        case 26: return {-90.0f, 90.0f, 0.5f, "#0.0", false};  // latitude, degrees
-        case 27: return {-12.0f, 14.0f, 0.5f, "#0.0", false};  // time zone, hours (location dialog)
-        case 28: return {0.0f, 359.0f, 1.0f, "##0", true};  // view direction, degrees
-        case 29: return {0.0f, 90.0f, 1.0f, "#0", false};  // view elevation, degrees
-        case 30: return {1.0f, 15.0f, 0.5f, "#0.0", false};  // zoom
-        case 31: return {-12.0f, 14.0f, 0.5f, "#0.0", false};  // time zone, hours (date and time dialog)
-        case 32: return {0.0f, 7.0f, 1.0f, "0", false};  // star magnitude level
-        case 33: return {0.0f, 4.0f, 1.0f, "0", false};  // constellation level
-        case 34: return {50.0f, 280.0f, 5.0f, "##0", false};  // printed picture width, mm
-        case 35: return {50.0f, 200.0f, 5.0f, "##0", false};  // printed picture height, mm
-        case 36: return {1.0f, 999.0f, 1.0f, "##0", false};  // animation count
+        case control::FormatoHora: return {1.0f, 2.0f, 1.0f, "0", true};  // hour format choice: 1 24 hours, 2 AM/PM
+        case control::Velocidad: return {0.0f, 100.0f, 1.0f, "##0", false};  // speed
+        case control::OrientacionCielo: return {1.0f, 2.0f, 1.0f, "0", true};  // sky orientation choice: 1 normal, 2 mirrored
+        case control::NivelGalaxias: return {1.0f, 4.0f, 1.0f, "0", false};  // galaxy detail level
+        case control::NivelNebPlanetarias: return {1.0f, 2.0f, 1.0f, "0", false};  // planetary nebula detail level
+        case control::NivelNebDifusas: return {1.0f, 2.0f, 1.0f, "0", false};  // diffuse nebula detail level
+        case control::NivelCumAbiertos: return {1.0f, 2.0f, 1.0f, "0", false};  // open cluster detail level
+        case control::NivelCumGlobulares: return {1.0f, 2.0f, 1.0f, "0", false};  // globular cluster detail level
+        case control::DiametroTelescopio: return {0.5f, 30.0f, 0.5f, "#0.0", false};  // telescope field, degrees
+        case control::Longitud: return {-180.0f, 180.0f, 0.5f, "##0.0", true};  // longitude, degrees west positive
+        case control::Latitud: return {-90.0f, 90.0f, 0.5f, "#0.0", false};  // latitude, degrees
+        case control::ZonaLocali: return {-12.0f, 14.0f, 0.5f, "#0.0", false};  // time zone, hours (location dialog)
+        case control::Direccion: return {0.0f, 359.0f, 1.0f, "##0", true};  // view direction, degrees
+        case control::Elevacion: return {0.0f, 90.0f, 1.0f, "#0", false};  // view elevation, degrees
+        case control::Zoom: return {1.0f, 15.0f, 0.5f, "#0.0", false};  // zoom
+        case control::ZonaHora: return {-12.0f, 14.0f, 0.5f, "#0.0", false};  // time zone, hours (date and time dialog)
+        case control::MagnitudMinima: return {0.0f, 7.0f, 1.0f, "0", false};  // star magnitude level
+        case control::NivelConstelaciones: return {0.0f, 4.0f, 1.0f, "0", false};  // constellation level
+        case control::AnchoImpresion: return {50.0f, 280.0f, 5.0f, "##0", false};  // printed picture width, mm
+        case control::AltoImpresion: return {50.0f, 200.0f, 5.0f, "##0", false};  // printed picture height, mm
+        case control::FactorAnimacion: return {1.0f, 999.0f, 1.0f, "##0", false};  // animation count
         default: return {0.0f, 1.0f, 1.0f, "0", true};
     }
 }

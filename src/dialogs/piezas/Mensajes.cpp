@@ -7,6 +7,7 @@
 #include <QPainterPath>
 #include <algorithm>
 
+#include "app/base/TablasControles.h"
 #include "platform/qt/PantallaQt.h"
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/Estilo.h"
@@ -67,13 +68,13 @@ Mensajes::Mensajes(Estado& e, QWidget* padre, const std::string& textoCp1252, co
     const int alto = filaBotones + 32 + MARGEN - 4;
     setFixedSize(ancho, alto);
 
-    aceptar_ = new Pulsador(e_, 46, this);
+    aceptar_ = new Pulsador(e_, control::Aceptar, this);
     aceptar_->setSonidoUnico(9);
     aceptar_->resize(ANCHO_BOTON, aceptar_->height());
     connect(aceptar_, &Pulsador::accionado, this, [this] { responde(-1); });
     const int yPulsador = filaBotones + (32 - aceptar_->height()) / 2;
     if (botones_ == 2) {
-        cancelar_ = new Pulsador(e_, 47, this);
+        cancelar_ = new Pulsador(e_, control::Cancelar, this);
         cancelar_->setSonidoUnico(9);
         cancelar_->resize(ANCHO_BOTON, cancelar_->height());
         connect(cancelar_, &Pulsador::accionado, this, [this] { responde(0); });

@@ -8,16 +8,20 @@
 #include "app/estado/Rotaciones.h"
 #include "app/base/TextosAngulo.h"
 #include "app/estado/Tiempo.h"
+#include "catalogue/MovimientosPropios.h"
+#include "sky/proyeccion/Proyeccion.h"
 #include "sky/proyeccion/SistemaSolar.h"
 
 namespace vedrano {
 
 namespace {
 
+// `mov` the table's proper motions (the named stars' only).
 template <class Registro>
-bool Fijo(const std::vector<Registro>& tabla, int i, ObjetoDelDia& o) {
+bool Fijo(const std::vector<Registro>& tabla, int i, ObjetoDelDia& o, const std::vector<Vector3f>& mov = {}) {
     if (i < 0 || static_cast<std::size_t>(i) >= tabla.size()) return false;
-    o = {0, tabla[static_cast<std::size_t>(i)].AR, tabla[static_cast<std::size_t>(i)].DEC};
+    const std::size_t k = static_cast<std::size_t>(i);
+    o = {0, tabla[k].AR, tabla[k].DEC, k < mov.size() ? mov[k] : Vector3f{}};
     return true;
 }
 
@@ -49,7 +53,8 @@ bool ObjetoDeLista(const Catalogos& c, int categoria, int linea, ObjetoDelDia& o
         case 2: return Fijo(c.TablaConstelaciones, linea, o);
         case 3:
             if (static_cast<std::size_t>(linea) >= c.IndiceListaEstrellas.size()) return false;
-            return Fijo(c.TablaEstrellasNombre, c.IndiceListaEstrellas[static_cast<std::size_t>(linea)], o);
+            return Fijo(c.TablaEstrellasNombre, c.IndiceListaEstrellas[static_cast<std::size_t>(linea)], o,
+                        c.MovEstrellasNombre);
         case 4: return Fijo(c.TablaGalaxias, linea, o);
         case 5: return Fijo(c.TablaNebPlanetarias, linea, o);
         case 6: return Fijo(c.TablaNebDifusas, linea, o);
@@ -94,7 +99,7 @@ DiaObjeto HallaDia(const Estado& e, const TablaPlanetas& planetas, const ObjetoD
             Estado medio = e;
             medio.FechaJuliana = d.jdInicio + 0.5;
             HallaPrecesion(medio);
-            Vector3f v = AngulosAVector(o.ar, o.dec);
+            Vector3f v = MueveDireccion(AngulosAVector(o.ar, o.dec), o.movimiento, AnosMovimientoPropio(medio));
             AplicaPrecesion(medio, v);
             VectorAAngulos(v, fijo.ar, fijo.dec);
         }

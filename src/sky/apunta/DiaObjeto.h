@@ -14,10 +14,13 @@ namespace vedrano {
 
 // What is followed: a body of the solar system (1..11 as in Planetas,
 // never 3) or a fixed catalogue place (cuerpo 0), right ascension and
-// declination of the catalogue epoch, precessed when the state asks.
+// declination of the catalogue epoch, precessed when the state asks; a
+// star from the list also carries its proper motion (direction per year),
+// which the precise model applies.
 struct ObjetoDelDia {
     int cuerpo = 0;
     double ar = 0, dec = 0;
+    Vector3f movimiento{};
 };
 
 // The object on line `linea` of search category `categoria` (0..11 as the

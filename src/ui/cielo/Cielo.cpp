@@ -8,6 +8,7 @@
 #include <QScrollArea>
 #include <QShortcut>
 
+#include "app/base/TablasControles.h"
 #include "app/base/Texto1252.h"
 #include "app/base/TextosAngulo.h"
 #include "config/LeeConfiguracion.h"
@@ -132,18 +133,18 @@ void Cielo::Construye() {
         s->setToolTip(QString::fromUtf8(TECLAS_SUBBAJ[i]));
         subbaj_[static_cast<std::size_t>(i)] = s;
     }
-    pulsador44_ = new controles::Pulsador(e_, 44, panelControl_);
+    pulsador44_ = new controles::Pulsador(e_, control::Animacion, panelControl_);
     pulsador44_->setGeometry(3, 180, 135, 23);
-    connect(pulsador44_, &controles::Pulsador::accionado, this, [this] { PulsadorAccionado(44); });
-    pulsador45_ = new controles::Pulsador(e_, 45, panelControl_);
+    connect(pulsador44_, &controles::Pulsador::accionado, this, [this] { PulsadorAccionado(control::Animacion); });
+    pulsador45_ = new controles::Pulsador(e_, control::Restaurar, panelControl_);
     pulsador45_->setGeometry(3, 207, 135, 23);
-    connect(pulsador45_, &controles::Pulsador::accionado, this, [this] { PulsadorAccionado(45); });
+    connect(pulsador45_, &controles::Pulsador::accionado, this, [this] { PulsadorAccionado(control::Restaurar); });
     pulsador45_->hide();
 
     tiempoReal_ = new CampoInfo(contenido);
     tiempoReal_->setAccessibleName(QStringLiteral("Tiempo real"));
     tiempoReal_->FijaTexto(QString::fromUtf8("Animación tiempo real"));
-    connect(tiempoReal_, &CampoInfo::pulsado, this, [this] { PulsadorAccionado(44); });
+    connect(tiempoReal_, &CampoInfo::pulsado, this, [this] { PulsadorAccionado(control::Animacion); });
 
     panelLocalizacion_ = new Panel(this);
     auto campo = [this](QWidget* padre, int abre, const char* nombre) {
@@ -274,13 +275,13 @@ void Cielo::BotonSoltado(int k) {
 }
 
 void Cielo::PulsadorAccionado(int k) {
-    if (k == 44) {
+    if (k == control::Animacion) {
         e_.Sujecion = false;
         e_.Enganche = false;
         Abre(dialogos_.Animar);
         return;
     }
-    if (k == 45) {
+    if (k == control::Restaurar) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
         LeeConfiguracion(e_, "Temporal.wrk", mensajes_);
         e_.Centrado = false;

@@ -1,6 +1,7 @@
 // The main window's repeat loops: the five arrow pairs and the real-time
 // clock.
 #include "app/base/Constantes.h"
+#include "app/base/Cursores.h"
 #include "app/base/Texto1252.h"
 #include "astro/Planetas.h"
 #include "sky/proyeccion/SistemaSolar.h"
@@ -23,16 +24,16 @@ constexpr double PASO_GRADO = DOS_PI / 360;
 void Cielo::SubBajMovido(int i, bool enBanda) {
     controles::SubBaj* s = subbaj_[static_cast<std::size_t>(i)];
     if (enBanda) {
-        if (e_.CursorActual != 21) controles::FijaCursor(e_, s, 21);
+        if (e_.CursorActual != cursor::ManoIndice) controles::FijaCursor(e_, s, cursor::ManoIndice);
         return;
     }
-    if (e_.CursorActual != 0) controles::FijaCursor(e_, s, 0);
+    if (e_.CursorActual != cursor::Normal) controles::FijaCursor(e_, s, cursor::Normal);
     if (!e_.Enganche) e_.Sujecion = false;
 }
 
 void Cielo::SubBajPresionado(int i, int x) {
     // Only a press inside the arrows' band counts.
-    if (e_.CursorActual != 21) return;
+    if (e_.CursorActual != cursor::ManoIndice) return;
     if (RechazaTiempoReal(i)) return;
     SubBajHaPulsado(i, x);
 }

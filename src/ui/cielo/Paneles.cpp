@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "app/base/Cursores.h"
 #include "ui/cielo/IconosBotones.h"
 #include "ui/controles/ControlDibujado.h"
 #include "ui/controles/Estilo.h"
@@ -92,14 +93,14 @@ void BotonPanel::mouseReleaseEvent(QMouseEvent* ev) {
     if (rect().contains(ev->position().toPoint())) emit soltado(indice_);
 }
 
-void BotonPanel::enterEvent(QEnterEvent*) { controles::FijaCursor(e_, this, 21); }
+void BotonPanel::enterEvent(QEnterEvent*) { controles::FijaCursor(e_, this, cursor::ManoIndice); }
 
 void BotonPanel::leaveEvent(QEvent*) {
     if (pulsado_) {
         pulsado_ = false;
         update();
     }
-    controles::FijaCursor(e_, this, 0);
+    controles::FijaCursor(e_, this, cursor::Normal);
 }
 
 }  // namespace vedrano

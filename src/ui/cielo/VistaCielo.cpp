@@ -8,6 +8,7 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include "app/base/Cursores.h"
 #include "app/base/ErrorEjecucion.h"
 #include "app/base/Texto1252.h"
 #include "platform/qt/Cursores.h"
@@ -134,7 +135,7 @@ void VistaCielo::mouseMoveEvent(QMouseEvent* ev) {
             // Past the drag distance the press is no longer a click.
             arrastrando_ = true;
             clickArmado_ = false;
-            setCursor(plataforma::CursorNumero(23));
+            setCursor(plataforma::CursorNumero(cursor::ManoCerrada));
         }
         if (arrastrando_) {
             QPointF u = AUsuario(ev->position());

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QPainter>
 
+#include "app/base/Cursores.h"
 #include "app/base/TablasControles.h"
 #include "platform/Pausa.h"
 #include "platform/Sonido.h"
@@ -12,7 +13,7 @@
 namespace vedrano::controles {
 
 void FijaCursor(Estado& e, QWidget* w, int16_t numero) {
-    if (numero == 0)
+    if (numero == cursor::Normal)
         w->unsetCursor();
     else
         w->setCursor(plataforma::CursorNumero(numero));

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "app/base/Cursores.h"
 #include "ui/controles/Estilo.h"
 
 namespace vedrano::controles {
@@ -50,7 +51,7 @@ void Potenciometro::mousePressEvent(QMouseEvent* ev) {
     if (ev->button() != Qt::LeftButton) return;
     const QPoint p = ev->position().toPoint();
     if (mando().contains(p)) {
-        fijaCursor(23);
+        fijaCursor(cursor::ManoCerrada);
         xInicial_ = p.x();
         posicionInicial_ = posicion_;
     } else if (p.y() >= PISTA_Y && p.y() < PISTA_Y + celda::PISTA.height()) {
@@ -60,11 +61,11 @@ void Potenciometro::mousePressEvent(QMouseEvent* ev) {
 
 void Potenciometro::mouseMoveEvent(QMouseEvent* ev) {
     const QPoint p = ev->position().toPoint();
-    if (e_.CursorActual == 23) {
+    if (e_.CursorActual == cursor::ManoCerrada) {
         mueve(posicionInicial_ + p.x() - xInicial_);
         return;
     }
-    cambiaCursor(mando().contains(p) ? 22 : 0);
+    cambiaCursor(mando().contains(p) ? cursor::ManoAbierta : cursor::Normal);
 }
 
 void Potenciometro::keyPressEvent(QKeyEvent* ev) {
@@ -80,7 +81,8 @@ void Potenciometro::keyPressEvent(QKeyEvent* ev) {
 }
 
 void Potenciometro::mouseReleaseEvent(QMouseEvent* ev) {
-    if (e_.CursorActual == 23) fijaCursor(mando().contains(ev->position().toPoint()) ? 22 : 0);
+    if (e_.CursorActual == cursor::ManoCerrada)
+        fijaCursor(mando().contains(ev->position().toPoint()) ? cursor::ManoAbierta : cursor::Normal);
 }
 
 }  // namespace vedrano::controles

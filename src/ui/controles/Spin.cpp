@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <charconv>
 
+#include "app/base/Cursores.h"
 #include "app/base/Formato.h"
 #include "app/base/TablasControles.h"
 #include "app/base/Texto1252.h"
@@ -84,7 +85,7 @@ void Spin::mouseMoveEvent(QMouseEvent* ev) {
 void Spin::mouseReleaseEvent(QMouseEvent*) { e_.SujecionSpin = false; }
 
 void Spin::mousePressEvent(QMouseEvent* ev) {
-    if (ev->button() != Qt::LeftButton || e_.CursorActual != 21) return;
+    if (ev->button() != Qt::LeftButton || e_.CursorActual != cursor::ManoIndice) return;
     repite(ev->position().y() <= height() / 2);
 }
 

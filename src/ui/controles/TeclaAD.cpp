@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPointer>
 
+#include "app/base/Cursores.h"
 #include "ui/controles/Estilo.h"
 
 namespace vedrano::controles {
@@ -52,7 +53,7 @@ void TeclaAD::keyPressEvent(QKeyEvent* ev) {
 }
 
 void TeclaAD::mousePressEvent(QMouseEvent* ev) {
-    if (ev->button() != Qt::LeftButton || e_.CursorActual != 21) return;
+    if (ev->button() != Qt::LeftButton || e_.CursorActual != cursor::ManoIndice) return;
     const int sentido = ev->position().y() <= origenFlechas().y() + 10 ? 1 : -1;
     QPointer<TeclaAD> vivo(this);
     e_.SujecionSpin = true;
