@@ -63,7 +63,10 @@ public:
     void FijaFondo(const QColor& c);  // sets BackColor and clears, as a form does
     QColor Fondo() const { return fondo_; }
 
-    void FijaColor(const QColor& c) { tinta_ = c; }
+    void FijaColor(const QColor& c) {
+        tinta_ = c;
+        rgbaTinta_ = c.rgba();  // every verb keys its pen or image by it
+    }
     QColor Color() const { return tinta_; }
     void FijaAnchoTrazo(int pixeles) { anchoTrazo_ = pixeles < 1 ? 1 : pixeles; }
     int AnchoTrazo() const { return anchoTrazo_; }
@@ -163,7 +166,8 @@ private:
     // project to huge places or to no number at all; leaving those out keeps
     // every conversion to whole pixels defined.
     static bool Dibujable(const QPointF& p) { return std::fabs(p.x()) < 1e6 && std::fabs(p.y()) < 1e6; }
-    ClavePluma Clave() const { return {tinta_.rgba(), anchoTrazo_, estilo_}; }
+    ClavePluma Clave() const { return {rgbaTinta_, anchoTrazo_, estilo_}; }
+    QRgb RgbTinta() const { return rgbaTinta_ | 0xFF000000u; }
     QColor Tono(const QColor& c) const { return paraTinta_ ? ColorParaTinta(c) : c; }
     void PreparaPintor();
     void PonPluma(const ClavePluma& k) const;
@@ -192,6 +196,7 @@ private:
     float izquierda_ = 0, superior_ = 0, ancho_ = 1, alto_ = 1;
     double sx_ = 1, sy_ = 1;
     QColor fondo_ = Qt::black, tinta_ = Qt::white;
+    QRgb rgbaTinta_ = 0xFFFFFFFFu;
     int anchoTrazo_ = 1, estilo_ = 0;
     double actualX_ = 0, actualY_ = 0;
     QFont fuente_;

@@ -119,7 +119,7 @@ const Lienzo::Estampa* Lienzo::SpriteFigura(const QPointF& c, double rx, double 
     const double fx = std::floor((c.x() - std::floor(c.x())) * FASES) / FASES;
     const double fy = std::floor((c.y() - std::floor(c.y())) * FASES) / FASES;
     const ClaveFigura clave{static_cast<float>(rx), static_cast<float>(ry), static_cast<float>(inicio),
-                            static_cast<float>(fin), tinta_.rgb(), static_cast<int16_t>(anchoTrazo_),
+                            static_cast<float>(fin), RgbTinta(), static_cast<int16_t>(anchoTrazo_),
                             static_cast<int16_t>(estilo_), caja, arco, static_cast<uint8_t>(fx * FASES),
                             static_cast<uint8_t>(fy * FASES)};
     auto it = figuras_.find(clave);
@@ -208,7 +208,7 @@ void Lienzo::Punto(double x, double y) {
         return;
     }
     const double medio = anchoTrazo_ / 2.0 + 1;
-    Estampa1(SpritePunto(anchoTrazo_, tinta_.rgb()), static_cast<int>(std::floor(c.x() - medio + 0.5)),
+    Estampa1(SpritePunto(anchoTrazo_, RgbTinta()), static_cast<int>(std::floor(c.x() - medio + 0.5)),
              static_cast<int>(std::floor(c.y() - medio + 0.5)));
 }
 
@@ -240,7 +240,7 @@ void Lienzo::Escribe(std::string_view cp1252, float prioridad) {
     }
     const double px = std::floor(p.x());
     const int fase = static_cast<int>((p.x() - px) * FASES_TEXTO);
-    const Recuerdo& t = ImagenRotulo(texto, tinta_.rgb(), fase);
+    const Recuerdo& t = ImagenRotulo(texto, RgbTinta(), fase);
     // Glyphs sit on a whole-pixel baseline, as the painter places them.
     const int x = static_cast<int>(px);
     const int y = static_cast<int>(std::lround(p.y() + ascenso_) - std::lround(ascenso_ - t.dy)) - t.dy;
