@@ -5,7 +5,7 @@
 
 #include "app/base/Aritmetica.h"
 #include "app/base/Constantes.h"
-#include "astro/Precesion.h"
+#include "app/estado/Rotaciones.h"
 #include "astro/PrecisionAlta.h"
 
 namespace vedrano {
@@ -56,7 +56,8 @@ public:
     double operator()(double z) const {
         double u = (z - DESDE) / PASO;
         if (!(u > 0)) return 0;
-        int i = std::min(N - 1, static_cast<int>(u));
+        if (u >= N) return valores_[N];  // a damaged direction may lie far off the sphere
+        int i = static_cast<int>(u);
         double f = u - i;
         return valores_[i] + f * (valores_[i + 1] - valores_[i]);
     }
@@ -100,8 +101,42 @@ void QuitaRefraccion(double& x, double& y, double& z) {
 
 }  // namespace
 
-PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v) {
+const InstantePreciso& InstanteDe(const Estado& e) {
+    if (e.InstanteAlta.tt == 0 || e.InstanteAlta.jdUT != e.FechaJuliana) e.InstanteAlta = PreparaInstante(e.FechaJuliana);
+    return e.InstanteAlta;
+}
+
+namespace {
+
+// The Earth's barycentric velocity over the speed of light, in the
+// program's axes (x = -Y, y = Z, z = X of ERFA's).
+void Beta(const Estado& e, double beta[3]) {
+    constexpr double C_UA_DIA = 173.1446326846693;
+    const double(&v)[3] = InstanteDe(e).tierra[1];
+    beta[0] = -v[1] / C_UA_DIA, beta[1] = v[2] / C_UA_DIA, beta[2] = v[0] / C_UA_DIA;
+}
+
+// Annual aberration to first order (the second order is under 0.01"): the
+// direction leans toward the Earth's motion.
+Vector3f Aberra(const double beta[3], const Vector3f& v) {
+    const double p = v.x * beta[0] + v.y * beta[1] + v.z * beta[2];
+    return {static_cast<float>(v.x + beta[0] - p * v.x), static_cast<float>(v.y + beta[1] - p * v.y),
+            static_cast<float>(v.z + beta[2] - p * v.z)};
+}
+
+}  // namespace
+
+void LugarDeFecha(const Estado& e, Vector3f& v) {
+    if (e.Pref.PrecisionAlta) {
+        double beta[3];
+        Beta(e, beta);
+        v = Aberra(beta, v);
+    }
     AplicaPrecesion(e, v);
+}
+
+PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v) {
+    LugarDeFecha(e, v);
     return ProyectaPuntoFecha(e, v);
 }
 
@@ -133,10 +168,11 @@ void ConstruyeMatriz(const Estado& e, int desde, bool precesion, double m[3][3],
         }
         double X1 = v[0], Y2 = v[1], Z2 = v[2];
         if (desde < 2) {
-            X1 = v[0] * r.cs + v[2] * r.ss;
-            double Z1 = v[2] * r.cs - v[0] * r.ss;
-            Y2 = v[1] * r.cf - Z1 * r.sf;
-            Z2 = Z1 * r.cf + v[1] * r.sf;
+            const RotacionHorizonte& h = r.horizonte;
+            X1 = v[0] * h.cs + v[2] * h.ss;
+            double Z1 = v[2] * h.cs - v[0] * h.ss;
+            Y2 = v[1] * h.cf - Z1 * h.sf;
+            Z2 = Z1 * h.cf + v[1] * h.sf;
         }
         if (hastaHorizonte) {
             m[0][j] = X1, m[1][j] = Y2, m[2][j] = Z2;
@@ -195,6 +231,7 @@ VistasPasada PreparaVistas(const Estado& e) {
     if (e.Pref.PrecisionAlta) {
         // Everything in the sky is lifted by the atmosphere; the horizon is not.
         ConstruyeMatriz(e, 0, PrecesaCatalogo(e), v.catalogo.h, true);
+        Beta(e, v.catalogo.beta);
         ConstruyeMatriz(e, 1, false, v.fecha.h, true);
         std::copy(&v.horizonte.m[0][0], &v.horizonte.m[0][0] + 9, &v.catalogo.m[0][0]);
         std::copy(&v.horizonte.m[0][0], &v.horizonte.m[0][0] + 9, &v.fecha.m[0][0]);
@@ -214,7 +251,7 @@ Vector3f Por(const double m[3][3], const Vector3f& v) {
 }  // namespace
 
 PuntoProyectado ProyectaRefractando(const MatrizVista& r, const Vector3f& v) {
-    Vector3f h = Por(r.h, v);
+    Vector3f h = Por(r.h, Aberra(r.beta, v));
     Refracta(h);
     Vector3f p = Por(r.m, h);
     return {p.x, p.y, p.z};
@@ -275,8 +312,6 @@ void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, flo
         dec = 99;
     }
 }
-
-void GiraDireccion(Estado& e) { e.DireccionGirada = e.Direccion - PI; }
 
 void AjustaEscala(Estado& e, int anchoPixeles, int altoPixeles) {
     float signo = e.Orientacion == 1 ? 1.0f : -1.0f;

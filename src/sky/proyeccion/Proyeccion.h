@@ -6,6 +6,7 @@
 #pragma once
 
 #include "app/estado/Estado.h"
+#include "app/estado/Vista.h"
 #include "astro/Coordenadas.h"
 
 namespace vedrano {
@@ -25,6 +26,7 @@ PuntoProyectado ProyectaPunto(const Estado& e, Vector3f v);
 struct MatrizVista {
     double m[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
     double h[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
+    double beta[3] = {0, 0, 0};  // the Earth's velocity over c: catalogue places are aberrated first
     bool refracta = false;
 };
 
@@ -46,7 +48,16 @@ inline PuntoProyectado Proyecta(const MatrizVista& r, const Vector3f& v) {
             static_cast<float>(r.m[2][0] * v.x + r.m[2][1] * v.y + r.m[2][2] * v.z)};
 }
 
-// As ProyectaPunto, and leaves the precessed direction in v.
+// The place of the date of a catalogue direction, as the picture draws it
+// before the atmosphere lifts it: precessed when the state asks; in the
+// precise model also displaced by the annual aberration (up to 20").
+void LugarDeFecha(const Estado& e, Vector3f& v);
+
+// The precise model's Earth and rotation for the state's instant, computed
+// once per instant.
+const InstantePreciso& InstanteDe(const Estado& e);
+
+// As ProyectaPunto, and leaves the direction of the date in v (LugarDeFecha).
 PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v);
 
 // Projects a direction already referred to the equator and equinox of the
@@ -71,9 +82,6 @@ PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h);
 // 99; altitude and azimuth are then left as they were when not reached.
 void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, float& altitud,
                  float& azimut);
-
-// The turned azimuth: Direccion - pi.
-void GiraDireccion(Estado& e);
 
 // The user scale from the zoom and the orientation flag, and the depth
 // threshold below which a point cannot fall inside the picture. With a
