@@ -123,6 +123,24 @@ TEST(MovimientosPropios, ArturoEnCincoMilAnosComoALaMano) {
     EXPECT_GE(vistos, 2);
 }
 
+// Arcturus's place of the date in the precise model against ERFA's
+// ICRS-to-CIRS transformation (space motion, light deflection,
+// aberration, precession-nutation), taken to the true equinox of the date.
+TEST(MovimientosPropios, ElLugarDeFechaDeUnaEstrellaComoEnERFA) {
+    const Catalogos& c = Datos();
+    const std::size_t i = Arturo(c);
+    const double a0 = 213.9153 * ERFA_DD2R, d0 = 19.1824 * ERFA_DD2R, mas = ERFA_DAS2R / 1000;
+    for (double jd : {2433282.5, 2460400.25, 2484000.75}) {
+        Estado e = MirandoA(c, i, jd, 1);
+        Vector3f v = DireccionesEnFecha(c.MovEstrellas, AnosMovimientoPropio(e))(i, c.TablaEstrellas[i].Direccion);
+        LugarDeFecha(e, v);
+        double ar, dec, ri, di, eo;
+        VectorAAngulos(v, ar, dec);
+        eraAtci13(a0, d0, -1093.39 * mas / std::cos(d0), -2000.06 * mas, 0, 0, jd + DeltaT(jd) / 86400, 0, &ri, &di, &eo);
+        EXPECT_LT(Separacion(ar, dec, eraAnp(ri - eo), di), 0.3) << jd;
+    }
+}
+
 // In 7000 AD the precise picture shows Arcturus 3 degrees from its J2000
 // place, and the pointer finds it there; the classic picture is the same
 // with or without the motions.
@@ -150,6 +168,9 @@ TEST(MovimientosPropios, ElModoPrecisoDibujaYSenalaLaEstrellaMovida) {
     EXPECT_EQ(luz(c.TablaEstrellas[i].Direccion), 0);
 
     PuntoProyectado p = ProyectaPunto(dibujo, movida);
+    // The pass's one matrix (aberration, refraction) puts it where the pointer looks.
+    PuntoProyectado q = Proyecta(PreparaVistas(dibujo).catalogo, movida);
+    EXPECT_LT(std::hypot(q.X - p.X, q.Y - p.Y), 2e-6);
     ObjetoSenalado o = ObjetoBajo(dibujo, c, p.X, p.Y, 0.003f);
     EXPECT_EQ(o.clase, ClaseObjeto::Estrella);
     EXPECT_EQ(o.indice, static_cast<int>(i));
@@ -197,7 +218,7 @@ TEST(MovimientosPropios, ElCursorQuitaLaRefraccion) {
         Estado e = MirandoA(c, i, 2460400.0 + paso * 0.004, 1);
         const Vector3f movida = DireccionesEnFecha(c.MovEstrellas, AnosMovimientoPropio(e))(i, c.TablaEstrellas[i].Direccion);
         Vector3f v = movida;
-        AplicaPrecesion(e, v);
+        LugarDeFecha(e, v);
         const double verdadera = std::asin(double{EcuatorialAHorizontal(e, v).z});
         if (verdadera < -0.5 * ERFA_DD2R || verdadera > 80 * ERFA_DD2R) continue;
         PuntoProyectado p = ProyectaPunto(e, movida);

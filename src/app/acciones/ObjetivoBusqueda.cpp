@@ -31,10 +31,10 @@ void Objetivo(Estado& e, const std::vector<Registro>& tabla, int i, std::size_t 
     // The classic centring aims at the catalogue's place, as the search
     // form reads it, even where the picture precesses the object. The
     // precise model aims where it draws the object: moved by its proper
-    // motion and referred to the equator and equinox of the date.
+    // motion, aberrated, and referred to the equator and equinox of the date.
     if (e.Pref.PrecisionAlta) {
         Vector3f v = DireccionesEnFecha(mov, AnosMovimientoPropio(e))(static_cast<std::size_t>(i), r.Direccion);
-        AplicaPrecesion(e, v);
+        LugarDeFecha(e, v);
         VectorAAngulos(v, e.ObjetivoAR, e.ObjetivoDEC);
     }
 }

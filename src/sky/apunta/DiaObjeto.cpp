@@ -101,7 +101,7 @@ DiaObjeto HallaDia(const Estado& e, const TablaPlanetas& planetas, const ObjetoD
             medio.FechaJuliana = d.jdInicio + 0.5;
             HallaPrecesion(medio);
             Vector3f v = MueveDireccion(AngulosAVector(o.ar, o.dec), o.movimiento, AnosMovimientoPropio(medio));
-            AplicaPrecesion(medio, v);
+            LugarDeFecha(medio, v);
             VectorAAngulos(v, fijo.ar, fijo.dec);
         }
         posicion = [fijo](double) { return fijo; };

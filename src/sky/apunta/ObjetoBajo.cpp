@@ -79,9 +79,9 @@ std::string Decimal(double v, int decimales) {
     return t;
 }
 
-// The place of the date of a direction (precessed when the state asks).
+// The place of the date of a direction, as the picture draws it.
 void Lugar(const Estado& e, Vector3f v, double& ar, double& dec) {
-    AplicaPrecesion(e, v);
+    LugarDeFecha(e, v);
     VectorAAngulos(v, ar, dec);
 }
 

@@ -100,8 +100,42 @@ void QuitaRefraccion(double& x, double& y, double& z) {
 
 }  // namespace
 
-PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v) {
+const InstantePreciso& InstanteDe(const Estado& e) {
+    if (e.InstanteAlta.tt == 0 || e.InstanteAlta.jdUT != e.FechaJuliana) e.InstanteAlta = PreparaInstante(e.FechaJuliana);
+    return e.InstanteAlta;
+}
+
+namespace {
+
+// The Earth's barycentric velocity over the speed of light, in the
+// program's axes (x = -Y, y = Z, z = X of ERFA's).
+void Beta(const Estado& e, double beta[3]) {
+    constexpr double C_UA_DIA = 173.1446326846693;
+    const double(&v)[3] = InstanteDe(e).tierra[1];
+    beta[0] = -v[1] / C_UA_DIA, beta[1] = v[2] / C_UA_DIA, beta[2] = v[0] / C_UA_DIA;
+}
+
+// Annual aberration to first order (the second order is under 0.01"): the
+// direction leans toward the Earth's motion.
+Vector3f Aberra(const double beta[3], const Vector3f& v) {
+    const double p = v.x * beta[0] + v.y * beta[1] + v.z * beta[2];
+    return {static_cast<float>(v.x + beta[0] - p * v.x), static_cast<float>(v.y + beta[1] - p * v.y),
+            static_cast<float>(v.z + beta[2] - p * v.z)};
+}
+
+}  // namespace
+
+void LugarDeFecha(const Estado& e, Vector3f& v) {
+    if (e.Pref.PrecisionAlta) {
+        double beta[3];
+        Beta(e, beta);
+        v = Aberra(beta, v);
+    }
     AplicaPrecesion(e, v);
+}
+
+PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v) {
+    LugarDeFecha(e, v);
     return ProyectaPuntoFecha(e, v);
 }
 
@@ -195,6 +229,7 @@ VistasPasada PreparaVistas(const Estado& e) {
     if (e.Pref.PrecisionAlta) {
         // Everything in the sky is lifted by the atmosphere; the horizon is not.
         ConstruyeMatriz(e, 0, PrecesaCatalogo(e), v.catalogo.h, true);
+        Beta(e, v.catalogo.beta);
         ConstruyeMatriz(e, 1, false, v.fecha.h, true);
         std::copy(&v.horizonte.m[0][0], &v.horizonte.m[0][0] + 9, &v.catalogo.m[0][0]);
         std::copy(&v.horizonte.m[0][0], &v.horizonte.m[0][0] + 9, &v.fecha.m[0][0]);
@@ -214,7 +249,7 @@ Vector3f Por(const double m[3][3], const Vector3f& v) {
 }  // namespace
 
 PuntoProyectado ProyectaRefractando(const MatrizVista& r, const Vector3f& v) {
-    Vector3f h = Por(r.h, v);
+    Vector3f h = Por(r.h, Aberra(r.beta, v));
     Refracta(h);
     Vector3f p = Por(r.m, h);
     return {p.x, p.y, p.z};

@@ -25,6 +25,7 @@ PuntoProyectado ProyectaPunto(const Estado& e, Vector3f v);
 struct MatrizVista {
     double m[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
     double h[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
+    double beta[3] = {0, 0, 0};  // the Earth's velocity over c: catalogue places are aberrated first
     bool refracta = false;
 };
 
@@ -46,7 +47,16 @@ inline PuntoProyectado Proyecta(const MatrizVista& r, const Vector3f& v) {
             static_cast<float>(r.m[2][0] * v.x + r.m[2][1] * v.y + r.m[2][2] * v.z)};
 }
 
-// As ProyectaPunto, and leaves the precessed direction in v.
+// The place of the date of a catalogue direction, as the picture draws it
+// before the atmosphere lifts it: precessed when the state asks; in the
+// precise model also displaced by the annual aberration (up to 20").
+void LugarDeFecha(const Estado& e, Vector3f& v);
+
+// The precise model's Earth and rotation for the state's instant, computed
+// once per instant.
+const InstantePreciso& InstanteDe(const Estado& e);
+
+// As ProyectaPunto, and leaves the direction of the date in v (LugarDeFecha).
 PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v);
 
 // Projects a direction already referred to the equator and equinox of the

@@ -3,6 +3,7 @@
 #include "astro/Coordenadas.h"
 #include "astro/Planetas.h"
 #include "astro/PrecisionAlta.h"
+#include "sky/proyeccion/Proyeccion.h"
 
 namespace vedrano {
 
@@ -16,8 +17,7 @@ void HallaCuerpo(Estado& e, const TablaPlanetas& t, int16_t cuerpo) {
             HallaPlaneta(e, t, cuerpo);
         return;
     }
-    if (e.InstanteAlta.tt == 0 || e.InstanteAlta.jdUT != e.FechaJuliana) e.InstanteAlta = PreparaInstante(e.FechaJuliana);
-    LugarPreciso l = LugarAparente(cuerpo, e.InstanteAlta);
+    LugarPreciso l = LugarAparente(cuerpo, InstanteDe(e));
     // The Moon's parallax reaches a degree: it is seen from the observer.
     if (cuerpo == 11) l = Topocentrico(l, e.Latitud, e.TiempoSidereo);
     PosicionCuerpo& b = e.Planetas[static_cast<std::size_t>(cuerpo)];
