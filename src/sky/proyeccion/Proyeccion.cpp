@@ -56,7 +56,8 @@ public:
     double operator()(double z) const {
         double u = (z - DESDE) / PASO;
         if (!(u > 0)) return 0;
-        int i = std::min(N - 1, static_cast<int>(u));
+        if (u >= N) return valores_[N];  // a damaged direction may lie far off the sphere
+        int i = static_cast<int>(u);
         double f = u - i;
         return valores_[i] + f * (valores_[i + 1] - valores_[i]);
     }
