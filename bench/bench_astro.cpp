@@ -5,11 +5,13 @@
 #include <vector>
 
 #include "app/estado/Estado.h"
+#include "app/estado/Rotaciones.h"
+#include "app/estado/Tiempo.h"
 #include "astro/Calendario.h"
 #include "astro/Coordenadas.h"
 #include "astro/Precesion.h"
 #include "astro/PrecisionAlta.h"
-#include "astro/TextosAngulo.h"
+#include "app/base/TextosAngulo.h"
 
 namespace {
 

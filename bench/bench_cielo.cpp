@@ -12,8 +12,9 @@
 #include <cstdlib>
 
 #include "app/base/Constantes.h"
+#include "app/estado/Rotaciones.h"
 #include "astro/Coordenadas.h"
-#include "astro/Tiempo.h"
+#include "app/estado/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
 #include "catalogue/EstrellasProfundas.h"
 #include "sky/DibujaCielo.h"

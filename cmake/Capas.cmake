@@ -58,10 +58,9 @@ pkg_check_modules(ERFA REQUIRED IMPORTED_TARGET erfa)
 vedrano_capa(vedrano_base app/base)
 # Ports to the operating system; Qt Core finds folders and local numbers.
 vedrano_capa(vedrano_plataforma platform USA vedrano_base PRIVADO Qt6::Core)
-# The astronomy: value in, value out. Until the core takes values instead of
-# the state, it still reaches the state record, the planet table and the clock.
-vedrano_capa(vedrano_astro astro USA vedrano_base PkgConfig::ERFA
-             PENDIENTE vedrano_estado vedrano_catalogo vedrano_plataforma)
+# The astronomy: value in, value out; neither the state, the catalogue, the
+# clock nor Qt.
+vedrano_capa(vedrano_astro astro USA vedrano_base PkgConfig::ERFA)
 vedrano_capa(vedrano_catalogo catalogue USA vedrano_base vedrano_plataforma vedrano_astro)
 # The state record still carries the preferences record.
 vedrano_capa(vedrano_estado app/estado USA vedrano_base vedrano_astro vedrano_catalogo

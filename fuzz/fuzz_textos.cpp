@@ -9,7 +9,7 @@
 #include "app/base/Aritmetica.h"
 #include "app/base/ErrorEjecucion.h"
 #include "astro/Calendario.h"
-#include "astro/TextosAngulo.h"
+#include "app/base/TextosAngulo.h"
 #include "dialogs/piezas/CampoAngulo.h"
 #include "app/acciones/HoraReglas.h"
 #include "fuzz/Objetivo.h"
@@ -52,14 +52,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* datos, size_t largo) {
     if (largo >= 8) {
         double x;
         std::memcpy(&x, datos, 8);
-        Estado e;
-        Prueba([&] { TextoSexagesimal(x, &e); });
-        Prueba([&] { TextoLatitud(x, &e); });
-        Prueba([&] { TextoLongitud(x, &e); });
-        Prueba([&] { TextoHoras(static_cast<float>(x), &e); });
-        Prueba([&] { TextoDireccion(x, &e); });
-        Prueba([&] { TextoGrados(x, &e); });
-        Prueba([&] { JulianaAFecha(e, x); });
+        Prueba([&] { TextoSexagesimal(x); });
+        Prueba([&] { TextoLatitud(x); });
+        Prueba([&] { TextoLongitud(x); });
+        Prueba([&] { GradosLongitud(x); });
+        Prueba([&] { TextoHoras(static_cast<float>(x)); });
+        Prueba([&] { TextoDireccion(x); });
+        Prueba([&] { TextoGrados(x); });
+        Prueba([&] { JulianaAFecha(x); });
     }
     return 0;
 }

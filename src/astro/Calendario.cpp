@@ -62,10 +62,11 @@ double FechaAJuliana(std::string_view cadena) {
     return jd;
 }
 
-void JulianaAFecha(Estado& e, double jd) {
+FechaCalendario JulianaAFecha(double jd) {
+    FechaCalendario f;
     double F = jd - Int(jd) + 0.5;
     if (F >= 1) F = F - 1;
-    e.FecFraccion = F;
+    f.Fraccion = F;
     int16_t hora = CInt(Int(F * 24));
     int16_t minuto = CInt((F - hora / 24.0) * 1440);
     if (minuto == 60) {
@@ -73,8 +74,8 @@ void JulianaAFecha(Estado& e, double jd) {
         minuto = 0;
         hora = A16(hora + 1);
     }
-    e.FecHora = hora;
-    e.FecMinuto = minuto;
+    f.Hora = hora;
+    f.Minuto = minuto;
 
     int32_t N = CLng(Int(jd + 1.5));
     int16_t mes = 12, dia = 31;
@@ -101,10 +102,10 @@ void JulianaAFecha(Estado& e, double jd) {
         // Day 0 is the last day of the previous year.
         Y = A16(Y - 1);
         if (Y == 0) Y = -1;
-        e.FecAno = Y;
-        e.FecMes = mes;
-        e.FecDia = dia;
-        return;
+        f.Ano = Y;
+        f.Mes = mes;
+        f.Dia = dia;
+        return f;
     }
     int B = EsBisiesto(Y) ? 1 : 0;
     const auto& acum = Tablas().DiasAcum[static_cast<std::size_t>(B)];
@@ -115,9 +116,10 @@ void JulianaAFecha(Estado& e, double jd) {
         }
     }
     dia = A16(d - acum[static_cast<std::size_t>(mes)]);
-    e.FecAno = Y;
-    e.FecMes = mes;
-    e.FecDia = dia;
+    f.Ano = Y;
+    f.Mes = mes;
+    f.Dia = dia;
+    return f;
 }
 
 std::string ArmaCadenaFecha(int ano, int mes, int dia, int hora, int minuto) {
@@ -125,8 +127,8 @@ std::string ArmaCadenaFecha(int ano, int mes, int dia, int hora, int minuto) {
            Formato(minuto, "@@");
 }
 
-std::string ArmaCadenaFecha(const Estado& e) {
-    return ArmaCadenaFecha(e.FecAno, e.FecMes, e.FecDia, e.FecHora, e.FecMinuto);
+std::string ArmaCadenaFecha(const FechaCalendario& f) {
+    return ArmaCadenaFecha(f.Ano, f.Mes, f.Dia, f.Hora, f.Minuto);
 }
 
 }  // namespace vedrano

@@ -47,22 +47,18 @@ void EclipticaAEcuatorial(double lambda, double& ar, double& dec) {
     dec = std::atan(Divide(s, Sqr(1 - s * s)));
 }
 
-void PreparaHorizonte(const Estado& e) {
-    DerivadosRotacion& r = e.Derivados;
-    if (!r.horizonteListo || r.sidereo != e.TiempoSidereo || r.latitud != e.Latitud) {
-        r.sidereo = e.TiempoSidereo;
-        r.latitud = e.Latitud;
-        r.cs = std::cos(r.sidereo);
-        r.ss = std::sin(r.sidereo);
-        r.cf = std::cos(r.latitud);
-        r.sf = std::sin(r.latitud);
-        r.horizonteListo = true;
-    }
+RotacionHorizonte HallaRotacionHorizonte(double sidereo, double latitud) {
+    RotacionHorizonte r;
+    r.sidereo = sidereo;
+    r.latitud = latitud;
+    r.cs = std::cos(sidereo);
+    r.ss = std::sin(sidereo);
+    r.cf = std::cos(latitud);
+    r.sf = std::sin(latitud);
+    return r;
 }
 
-Vector3f EcuatorialAHorizontal(const Estado& e, const Vector3f& v) {
-    PreparaHorizonte(e);
-    const DerivadosRotacion& r = e.Derivados;
+Vector3f EcuatorialAHorizontal(const RotacionHorizonte& r, const Vector3f& v) {
     // Each result is stored in 32 bits before the next step uses it.
     Vector3f h;
     h.x = static_cast<float>(v.x * r.cs + v.z * r.ss);

@@ -9,17 +9,15 @@
 
 namespace vedrano {
 
-void HallaPlaneta(Estado& e, const TablaPlanetas& planetas, int16_t indice) {
-    if (indice < 0 || indice > 11) throw ErrorEjecucion(ErrSubindice);
-    const ElementosPlaneta& p = planetas[static_cast<std::size_t>(indice)];
-    PosicionCuerpo& r = e.Planetas[static_cast<std::size_t>(indice)];
-    double L = LongitudMedia(e, p);
+PosicionCuerpo HallaPlaneta(double jd, const ElementosOrbita& p, const DireccionSol& s) {
+    PosicionCuerpo r;
+    double L = LongitudMedia(jd, p);
     double u = L - p.LongNodo;
     double l = ArcoTangente(std::cos(p.Inclinacion) * std::sin(u), std::cos(u)) + p.LongNodo;
     // The radius vector, taken with the heliocentric longitude l, not with L.
     double radio = p.SemiejeMayor + p.SemiejeMayor * p.Excentricidad * std::sin(l - (p.LongPerihelio + MEDIO_PI));
-    double Y = radio * std::sin(l) + e.SolX;
-    double X = radio * std::cos(l) + e.SolZ;
+    double Y = radio * std::sin(l) + s.SolX;
+    double X = radio * std::cos(l) + s.SolZ;
     r.LongGeo = ArcoTangente(Y, X);
     EclipticaAEcuatorial(r.LongGeo, r.AscRecta, r.Declinacion);
     double Z = std::sin(p.Inclinacion) * std::sin(u) * radio;
@@ -27,6 +25,7 @@ void HallaPlaneta(Estado& e, const TablaPlanetas& planetas, int16_t indice) {
     double beta = std::atan(Divide(Z, rho));
     // The latitude is simply added to the declination of the ecliptic point.
     r.Declinacion = r.Declinacion + beta;
+    return r;
 }
 
 namespace {
@@ -35,11 +34,11 @@ double Fraccion(double revoluciones) { return revoluciones - Int(revoluciones); 
 
 }  // namespace
 
-void HallaLuna(Estado& e) {
-    PosicionCuerpo& r = e.Planetas[11];
-    double T = (e.FechaJuliana + ORIGEN_ELEMENTOS - 2446759.5) / 36525;
+PosicionCuerpo HallaLuna(double jd, double latitud) {
+    PosicionCuerpo r;
+    double T = (jd + ORIGEN_ELEMENTOS - 2446759.5) / 36525;
     // Arguments in revolutions; the slow term of L' uses the plain Julian day.
-    double Lp = 1336.855231 * T + 0.757756 - (e.FechaJuliana - 1.3253e6) / 2.535e8;
+    double Lp = 1336.855231 * T + 0.757756 - (jd - 1.3253e6) / 2.535e8;
     double M = 99.9973606 * T + 0.995766;   // the Sun's mean anomaly
     double Mp = 1325.552359 * T + 0.822513; // the Moon's mean anomaly
     double D = 1236.853095 * T + 0.974271;  // mean elongation
@@ -65,12 +64,12 @@ void HallaLuna(Estado& e) {
 
     r.AscRecta = ArcoTangente(0.91748 * std::sin(lambda) - 0.39778 * std::tan(beta), std::cos(lambda));
     double s = 0.91748 * std::sin(beta) + 0.39778 * std::cos(beta) * std::sin(lambda);
-    r.Declinacion = std::atan(Divide(s, Sqr(1 - s * s))) - (e.Latitud / 1.65) * GRADO;
+    r.Declinacion = std::atan(Divide(s, Sqr(1 - s * s))) - (latitud / 1.65) * GRADO;
+    return r;
 }
 
-void HallaSolAparente(Estado& e) {
-    const PosicionCuerpo& tierra = e.Planetas[3];
-    PosicionCuerpo& sol = e.Planetas[10];
+PosicionCuerpo HallaSolAparente(const PosicionCuerpo& tierra) {
+    PosicionCuerpo sol;
     sol.AscRecta = tierra.AscRecta + PI;
     if (sol.AscRecta > DOS_PI) sol.AscRecta = sol.AscRecta - DOS_PI;
     sol.Declinacion = -tierra.Declinacion;
@@ -78,6 +77,7 @@ void HallaSolAparente(Estado& e) {
     sol.x = v.x;
     sol.y = v.y;
     sol.z = v.z;
+    return sol;
 }
 
 }  // namespace vedrano

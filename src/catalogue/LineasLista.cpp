@@ -8,7 +8,7 @@
 
 #include "app/base/ErrorEjecucion.h"
 #include "app/base/Formato.h"
-#include "astro/TextosAngulo.h"
+#include "app/base/TextosAngulo.h"
 
 namespace vedrano {
 

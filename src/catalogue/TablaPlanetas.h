@@ -7,26 +7,19 @@
 #include <array>
 #include <string>
 
+#include "astro/Cuerpos.h"
 #include "catalogue/Registros.h"
 
 namespace vedrano {
 
-struct ElementosPlaneta {
+// One record: the astronomy's mean elements, with the record's code.
+struct ElementosPlaneta : ElementosOrbita {
     CadenaFija<3> Codigo;
-    double MovDiario = 0;      // mean daily motion n, radians per day
-    double LongEpoca = 0;      // mean longitude at the time origin, radians
-    double LongPerihelio = 0;  // longitude of perihelion, radians
-    double Excentricidad = 0;
-    double SemiejeMayor = 0;   // astronomical units
-    double Inclinacion = 0;    // radians
-    double LongNodo = 0;       // longitude of the ascending node, radians
 };
 
 using TablaPlanetas = std::array<ElementosPlaneta, 12>;
 
 inline constexpr int LARGO_REGISTRO_PLANETA = 107;
-// The Julian day plus this offset is the time of the elements' origin.
-inline constexpr double ORIGEN_ELEMENTOS = 31739.5;
 
 // Decodes one 107-byte record.
 ElementosPlaneta DecodificaPlaneta(std::string_view registro);

@@ -20,8 +20,8 @@
 #include "astro/Planetas.h"
 #include "astro/Precesion.h"
 #include "astro/Sidereo.h"
-#include "astro/TextosAngulo.h"
-#include "astro/Tiempo.h"
+#include "app/base/TextosAngulo.h"
+#include "app/estado/Tiempo.h"
 #include "catalogue/TablaPlanetas.h"
 #include "cli/CarpetaDatos.h"
 #include "sky/proyeccion/Proyeccion.h"
@@ -208,17 +208,18 @@ private:
         auto& o = operaciones_;
         o["EsBisiesto"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.B(EsBisiesto(a.I())); }};
         o["FechaAJuliana"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.D(FechaAJuliana(a.T())); }};
-        o["ArmaCadenaFecha"] = {5, [](Argumentos& a, Estado& e, Resultado& r) {
-            e.FecAno = a.I();
-            e.FecMes = a.I();
-            e.FecDia = a.I();
-            e.FecHora = a.I();
-            e.FecMinuto = a.I();
-            r.T(ArmaCadenaFecha(e));
+        o["ArmaCadenaFecha"] = {5, [](Argumentos& a, Estado&, Resultado& r) {
+            FechaCalendario f;
+            f.Ano = a.I();
+            f.Mes = a.I();
+            f.Dia = a.I();
+            f.Hora = a.I();
+            f.Minuto = a.I();
+            r.T(ArmaCadenaFecha(f));
         }};
-        o["JulianaAFecha"] = {1, [](Argumentos& a, Estado& e, Resultado& r) {
-            JulianaAFecha(e, a.D());
-            r.I(e.FecAno).I(e.FecMes).I(e.FecDia).I(e.FecHora).I(e.FecMinuto).D(e.FecFraccion);
+        o["JulianaAFecha"] = {1, [](Argumentos& a, Estado&, Resultado& r) {
+            FechaCalendario f = JulianaAFecha(a.D());
+            r.I(f.Ano).I(f.Mes).I(f.Dia).I(f.Hora).I(f.Minuto).D(f.Fraccion);
         }};
         o["TextoFechaHora"] = {2, [](Argumentos& a, Estado& e, Resultado& r) {
             double jd = a.D();
@@ -238,60 +239,53 @@ private:
             AvanzaTiempo(e, vacia_);
             r.D(e.FechaJuliana);
         }};
-        o["HallaTiempoSidereo"] = {4, [this](Argumentos& a, Estado& e, Resultado& r) {
-            e.FechaJuliana = a.D();
-            e.Longitud = a.D();
-            e.ZonaHoraria = a.F();
-            e.HorarioVerano = a.B();
-            HallaTiempoSidereo(e, Planetas());
-            r.D(e.TiempoSidereo);
+        o["HallaTiempoSidereo"] = {4, [this](Argumentos& a, Estado&, Resultado& r) {
+            double jd = a.D();
+            Observador o;
+            o.Longitud = a.D();
+            o.ZonaHoraria = a.F();
+            o.HorarioVerano = a.B();
+            r.D(TiempoSidereoLocal(jd, o, Planetas()[3]));
         }};
-        o["HallaSol"] = {1, [this](Argumentos& a, Estado& e, Resultado& r) {
-            e.FechaJuliana = a.D();
-            HallaSol(e, Planetas());
-            const PosicionCuerpo& t = e.Planetas[3];
-            r.D(t.LongGeo).D(t.AscRecta).D(t.Declinacion).F(t.x).F(t.y).F(t.z).D(e.SolX).D(e.SolZ);
+        o["HallaSol"] = {1, [this](Argumentos& a, Estado&, Resultado& r) {
+            double jd = a.D();
+            PosicionSol s = HallaSol(jd, Planetas()[3]);
+            const PosicionCuerpo& t = s.tierra;
+            r.D(t.LongGeo).D(t.AscRecta).D(t.Declinacion).F(t.x).F(t.y).F(t.z).D(s.sol.SolX).D(s.sol.SolZ);
         }};
-        o["HallaSolAparente"] = {1, [this](Argumentos& a, Estado& e, Resultado& r) {
-            e.FechaJuliana = a.D();
-            HallaSol(e, Planetas());
-            HallaSolAparente(e);
-            const PosicionCuerpo& s = e.Planetas[10];
+        o["HallaSolAparente"] = {1, [this](Argumentos& a, Estado&, Resultado& r) {
+            double jd = a.D();
+            PosicionCuerpo s = HallaSolAparente(HallaSol(jd, Planetas()[3]).tierra);
             r.D(s.AscRecta).D(s.Declinacion).F(s.x).F(s.y).F(s.z);
         }};
-        o["HallaPlaneta"] = {2, [this](Argumentos& a, Estado& e, Resultado& r) {
+        o["HallaPlaneta"] = {2, [this](Argumentos& a, Estado&, Resultado& r) {
             int16_t indice = a.I();
-            e.FechaJuliana = a.D();
+            double jd = a.D();
             const TablaPlanetas& t = Planetas();
-            HallaSol(e, t);
-            HallaPlaneta(e, t, indice);
-            const PosicionCuerpo& p = e.Planetas[static_cast<std::size_t>(indice)];
+            if (indice < 0 || indice > 11) throw ErrorEjecucion(ErrSubindice);
+            PosicionCuerpo p = HallaPlaneta(jd, t[static_cast<std::size_t>(indice)], HallaSol(jd, t[3]).sol);
             r.D(p.LongGeo).D(p.AscRecta).D(p.Declinacion);
         }};
-        o["HallaLuna"] = {2, [](Argumentos& a, Estado& e, Resultado& r) {
-            e.FechaJuliana = a.D();
-            e.Latitud = a.D();
-            HallaLuna(e);
-            r.D(e.Planetas[11].AscRecta).D(e.Planetas[11].Declinacion);
+        o["HallaLuna"] = {2, [](Argumentos& a, Estado&, Resultado& r) {
+            double jd = a.D();
+            PosicionCuerpo p = HallaLuna(jd, a.D());
+            r.D(p.AscRecta).D(p.Declinacion);
         }};
-        o["HallaPrecesion"] = {1, [](Argumentos& a, Estado& e, Resultado& r) {
-            e.FechaJuliana = a.D();
-            HallaPrecesion(e);
-            r.D(e.PrecZeta).D(e.PrecZ).D(e.PrecTheta);
+        o["HallaPrecesion"] = {1, [](Argumentos& a, Estado&, Resultado& r) {
+            AngulosPrecesion p = HallaPrecesion(a.D());
+            r.D(p.zeta).D(p.z).D(p.theta);
         }};
-        o["AplicaPrecesion"] = {4, [](Argumentos& a, Estado& e, Resultado& r) {
-            e.FechaJuliana = a.D();
+        o["AplicaPrecesion"] = {4, [](Argumentos& a, Estado&, Resultado& r) {
+            double jd = a.D();
             Vector3f v{a.F(), a.F(), a.F()};
-            e.Precesion = true;
-            HallaPrecesion(e);
-            AplicaPrecesion(e, v);
+            v = Rota(MatrizPrecesion(HallaPrecesion(jd)).m, v);
             r.F(v.x).F(v.y).F(v.z);
         }};
-        o["EcuatorialAHorizontal"] = {5, [](Argumentos& a, Estado& e, Resultado& r) {
-            e.TiempoSidereo = a.D();
-            e.Latitud = a.D();
+        o["EcuatorialAHorizontal"] = {5, [](Argumentos& a, Estado&, Resultado& r) {
+            double sidereo = a.D();
+            double latitud = a.D();
             Vector3f v{a.F(), a.F(), a.F()};
-            Vector3f h = EcuatorialAHorizontal(e, v);
+            Vector3f h = EcuatorialAHorizontal(HallaRotacionHorizonte(sidereo, latitud), v);
             r.F(h.x).F(h.y).F(h.z);
         }};
         o["ArcoTangente"] = {2, [](Argumentos& a, Estado&, Resultado& r) {

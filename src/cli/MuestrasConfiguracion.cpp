@@ -13,11 +13,13 @@
 #include "app/base/Constantes.h"
 #include "app/base/ErrorEjecucion.h"
 #include "app/base/Texto1252.h"
+#include "app/estado/Astros.h"
+#include "app/estado/Rotaciones.h"
 #include "astro/Calendario.h"
 #include "astro/Coordenadas.h"
 #include "astro/Planetas.h"
 #include "astro/Precesion.h"
-#include "astro/Tiempo.h"
+#include "app/estado/Tiempo.h"
 #include "catalogue/ArchivoRegistros.h"
 #include "catalogue/Catalogos.h"
 #include "catalogue/TablaPlanetas.h"
@@ -118,8 +120,7 @@ public:
     }
 
     void FijaJuliana(double jd) {
-        e.FechaJuliana = jd;
-        ActualizaTiempo(e, planetas_);
+        FijaFechaJuliana(e, planetas_, jd);
     }
 
     // The direction of a body (1..9 planets, 10 Sun, 11 Moon) at the

@@ -14,12 +14,6 @@
 
 namespace vedrano {
 
-namespace {
-
-constexpr int16_t VERDADERO = -1;
-
-}  // namespace
-
 std::string TextoItem(const Estado& estado, const ItemConfiguracion& item) {
     // The table's accessors hand out references for the reader; here they
     // are only read.
@@ -59,7 +53,6 @@ ResultadoConfiguracion EscribeConfiguracion(Estado& e, std::string_view nombre, 
                                             bool esTrabajo) {
     const std::string titulo = A1252("Guardar configuración");
     ResultadoConfiguracion r;
-    e.RespuestaMensaje = VERDADERO;
     auto final = NombreParaGuardar(nombre);
     if (!final) {
         r.error = ErrNombreArchivo;
@@ -74,10 +67,7 @@ ResultadoConfiguracion EscribeConfiguracion(Estado& e, std::string_view nombre, 
         const std::string pregunta = A1252(
             "Ya existe un archivo con ese  nombre.  ¿Desea  actualizarlo con los nuevos datos?.  Confirme  la  "
             "modificación pulsando el  Botón  Aceptar.   Para salir sin modificarlo pulse el  Botón  Cancelar.");
-        if (ui.Mensaje(pregunta, titulo, 2, 2) == 0) {
-            e.RespuestaMensaje = 0;
-            return r;
-        }
+        if (ui.Mensaje(pregunta, titulo, 2, 2) == 0) return r;
     }
     r.error = EscribeArchivoEntero(ruta, TextoConfiguracion(e));
     if (r.error != 0) {

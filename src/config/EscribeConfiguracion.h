@@ -19,7 +19,7 @@ std::string TextoConfiguracion(const Estado& e);
 // (NombreParaGuardar). A refused name is told through `ui` and nothing is
 // written. An existing file is replaced only when the user accepts, except
 // for the main window's work file (`esTrabajo`), which is replaced at once.
-// RespuestaMensaje is left false when the user declined, true otherwise.
+// A declined replacement returns no error and nothing written.
 ResultadoConfiguracion EscribeConfiguracion(Estado& e, std::string_view nombre, InterfazMensajes& ui,
                                             bool esTrabajo);
 

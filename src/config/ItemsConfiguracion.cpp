@@ -31,67 +31,67 @@ constexpr double CAMPO_MINIMO = 0.0087, CAMPO_MAXIMO = 0.5236;
 #define CADENA(campo) CampoItem{CampoCadena{[](Estado& e) -> std::string& { return e.campo; }}}
 
 // A check box of the object options: any value is accepted, non-zero is on.
-#define CAPA(campo) {"Capas." #campo, ENTERO(Capas.campo), -INF, INF, false, 0}
-#define PLANETA(i) {"Capas.Plane[" #i "]", ENTERO(Capas.Plane[i]), -INF, INF, false, 0}
+#define CAPA(campo) {"Capas." #campo, ENTERO(Capas.campo), -INF, INF, false}
+#define PLANETA(i) {"Capas.Plane[" #i "]", ENTERO(Capas.Plane[i]), -INF, INF, false}
 
 const ItemConfiguracion LINEA1[] = {
-    {"FechaJuliana", DOUBLE(FechaJuliana), PRIMER_DIA, ULTIMO_DIA, true, 2482294.0},
-    {"IndiceLugar", ENTERO(IndiceLugar), 0, N_CIUDADES - 1, true, 95},
-    {"Longitud", DOUBLE(Longitud), -DOS_PI, DOS_PI, true, 0.0829029977321625},
-    {"Latitud", DOUBLE(Latitud), -MEDIO_PI, MEDIO_PI, true, 0.640890002250671},
-    {"Direccion", DOUBLE(Direccion), 0, DOS_PI, true, 3.1415926536},
-    {"Elevacion", DOUBLE(Elevacion), 0, MEDIO_PI, true, 0.785398852000001},
-    {"Zoom", SINGLE(Zoom), LIMITES(30), true, 2.0},
+    {"FechaJuliana", DOUBLE(FechaJuliana), PRIMER_DIA, ULTIMO_DIA, true},
+    {"IndiceLugar", ENTERO(IndiceLugar), 0, N_CIUDADES - 1, true},
+    {"Longitud", DOUBLE(Longitud), -DOS_PI, DOS_PI, true},
+    {"Latitud", DOUBLE(Latitud), -MEDIO_PI, MEDIO_PI, true},
+    {"Direccion", DOUBLE(Direccion), 0, DOS_PI, true},
+    {"Elevacion", DOUBLE(Elevacion), 0, MEDIO_PI, true},
+    {"Zoom", SINGLE(Zoom), LIMITES(30), true},
 };
 
 const ItemConfiguracion LINEA2[] = {
-    {"TextoLugar", CADENA(TextoLugar), -INF, INF, true, 0},
+    {"TextoLugar", CADENA(TextoLugar), -INF, INF, true},
 };
 
 const ItemConfiguracion LINEA3[] = {
-    {"NivelEstrellas", ENTERO(NivelEstrellas), LIMITES(32), true, 1},
-    {"NivelConstelaciones", ENTERO(NivelConstelaciones), LIMITES(33), true, 1},
-    {"NivelGalaxias", ENTERO(NivelGalaxias), LIMITES(19), true, 3},
-    {"NivelNebPlanetarias", ENTERO(NivelNebPlanetarias), LIMITES(20), true, 1},
-    {"NivelNebDifusas", ENTERO(NivelNebDifusas), LIMITES(21), true, 1},
-    {"NivelCumAbiertos", ENTERO(NivelCumAbiertos), LIMITES(22), true, 1},
-    {"NivelCumGlobulares", ENTERO(NivelCumGlobulares), LIMITES(23), true, 1},
+    {"NivelEstrellas", ENTERO(NivelEstrellas), LIMITES(32), true},
+    {"NivelConstelaciones", ENTERO(NivelConstelaciones), LIMITES(33), true},
+    {"NivelGalaxias", ENTERO(NivelGalaxias), LIMITES(19), true},
+    {"NivelNebPlanetarias", ENTERO(NivelNebPlanetarias), LIMITES(20), true},
+    {"NivelNebDifusas", ENTERO(NivelNebDifusas), LIMITES(21), true},
+    {"NivelCumAbiertos", ENTERO(NivelCumAbiertos), LIMITES(22), true},
+    {"NivelCumGlobulares", ENTERO(NivelCumGlobulares), LIMITES(23), true},
     // Identification choices: one value per option button of their frame.
-    {"IdEstrellas", ENTERO(IdEstrellas), 0, 2, true, 1},
-    {"IdConstelaciones", ENTERO(IdConstelaciones), 0, 3, false, 0},
-    {"IdMessier", ENTERO(IdMessier), 0, 2, false, 0},
-    {"TipoPaso", ENTERO(TipoPaso), 0, 1, false, 0},
-    {"TeclaPaso", ENTERO(TeclaPaso), 1, 7, false, 0},
-    {"PasoUnidad", ENTERO(PasoUnidad), 1, 12, false, 0},  // indexes the step table
-    {"IncluirAnimacion", BOOLEANO(IncluirAnimacion), -INF, INF, false, 0},
+    {"IdEstrellas", ENTERO(IdEstrellas), 0, 2, true},
+    {"IdConstelaciones", ENTERO(IdConstelaciones), 0, 3, false},
+    {"IdMessier", ENTERO(IdMessier), 0, 2, false},
+    {"TipoPaso", ENTERO(TipoPaso), 0, 1, false},
+    {"TeclaPaso", ENTERO(TeclaPaso), 1, 7, false},
+    {"PasoUnidad", ENTERO(PasoUnidad), 1, 12, false},  // indexes the step table
+    {"IncluirAnimacion", BOOLEANO(IncluirAnimacion), -INF, INF, false},
     CAPA(Sol), CAPA(Luna),
     PLANETA(0), PLANETA(1), PLANETA(2), PLANETA(3), PLANETA(4), PLANETA(5), PLANETA(6), PLANETA(7),
     PLANETA(8),
     CAPA(Galax), CAPA(NebPl), CAPA(NebDi), CAPA(CumAb), CAPA(CumGl), CAPA(Quasa), CAPA(Pulsa),
     CAPA(Aguje), CAPA(ARDEC30), CAPA(ARDEC15), CAPA(Horiz), CAPA(Eclip), CAPA(LimCo), CAPA(LuzDi),
     CAPA(ViaLa), CAPA(Messi),
-    {"IdentificarObjetos", BOOLEANO(IdentificarObjetos), -INF, INF, true, 1},
+    {"IdentificarObjetos", BOOLEANO(IdentificarObjetos), -INF, INF, true},
 };
 
 const ItemConfiguracion LINEA4[] = {
-    {"AnchoMm", ENTERO(AnchoMm), LIMITES(34), false, 0},
-    {"AltoMm", ENTERO(AltoMm), LIMITES(35), false, 0},
-    {"PanelControl", BOOLEANO(PanelControl), -INF, INF, false, 0},
-    {"PanelCursor", BOOLEANO(PanelCursor), -INF, INF, false, 0},
-    {"PanelLocalizacion", BOOLEANO(PanelLocalizacion), -INF, INF, false, 0},
-    {"PanelObjetos", BOOLEANO(PanelObjetos), -INF, INF, false, 0},
-    {"FormatoHora", ENTERO(FormatoHora), LIMITES(1), true, 1},
-    {"Orientacion", ENTERO(Orientacion), LIMITES(16), true, 1},
-    {"Precesion", BOOLEANO(Precesion), -INF, INF, false, 0},
-    {"Sonido", BOOLEANO(Sonido), -INF, INF, false, 0},
-    {"Telescopio", BOOLEANO(Telescopio), -INF, INF, false, 0},
-    {"CampoTelescopio", DOUBLE(CampoTelescopio), CAMPO_MINIMO, CAMPO_MAXIMO, true, 0.0523596},
-    {"Velocidad", ENTERO(Velocidad), LIMITES(15), true, 50},
-    {"ZonaHoraria", SINGLE(ZonaHoraria), -24, 24, true, 0.0},
-    {"HorarioVerano", BOOLEANO(HorarioVerano), -INF, INF, false, 0},
-    {"PasoCantidad", ENTERO(PasoCantidad), LIMITES(36), true, 1},
-    {"TiempoReal", BOOLEANO(TiempoReal), -INF, INF, true, 0},
-    {"ImagenEnPantalla", BOOLEANO(ImagenEnPantalla), -INF, INF, true, 0},
+    {"AnchoMm", ENTERO(AnchoMm), LIMITES(34), false},
+    {"AltoMm", ENTERO(AltoMm), LIMITES(35), false},
+    {"PanelControl", BOOLEANO(PanelControl), -INF, INF, false},
+    {"PanelCursor", BOOLEANO(PanelCursor), -INF, INF, false},
+    {"PanelLocalizacion", BOOLEANO(PanelLocalizacion), -INF, INF, false},
+    {"PanelObjetos", BOOLEANO(PanelObjetos), -INF, INF, false},
+    {"FormatoHora", ENTERO(FormatoHora), LIMITES(1), true},
+    {"Orientacion", ENTERO(Orientacion), LIMITES(16), true},
+    {"Precesion", BOOLEANO(Precesion), -INF, INF, false},
+    {"Sonido", BOOLEANO(Sonido), -INF, INF, false},
+    {"Telescopio", BOOLEANO(Telescopio), -INF, INF, false},
+    {"CampoTelescopio", DOUBLE(CampoTelescopio), CAMPO_MINIMO, CAMPO_MAXIMO, true},
+    {"Velocidad", ENTERO(Velocidad), LIMITES(15), true},
+    {"ZonaHoraria", SINGLE(ZonaHoraria), -24, 24, true},
+    {"HorarioVerano", BOOLEANO(HorarioVerano), -INF, INF, false},
+    {"PasoCantidad", ENTERO(PasoCantidad), LIMITES(36), true},
+    {"TiempoReal", BOOLEANO(TiempoReal), -INF, INF, true},
+    {"ImagenEnPantalla", BOOLEANO(ImagenEnPantalla), -INF, INF, true},
 };
 
 template <std::size_t N>

@@ -1,7 +1,8 @@
 // The items of a configuration file, line by line in the order they are
 // written, with the field of the application state each one holds, its
-// range when the program cannot work with other values, and its default
-// when the file cannot be opened. Reader, writer and the command line all
+// range when the program cannot work with other values, and whether it
+// takes its default (the value of a fresh state record) when the file
+// cannot be opened. Reader, writer and the command line all
 // walk this one table, so they cannot disagree on order or type.
 #pragma once
 #include <array>
@@ -25,8 +26,7 @@ struct ItemConfiguracion {
     const char* nombre;  // the field's name in the state
     CampoItem campo;
     double minimo, maximo;  // accepted range of a number (inclusive)
-    bool tieneOmision;      // the reader stores `omision` when the file cannot be opened
-    double omision;         // numbers and Booleans (0/1); a String's default is empty
+    bool tieneOmision;      // the reader stores the default when the file cannot be opened
 };
 
 inline constexpr std::array<int, 4> ITEMS_POR_LINEA{7, 1, 42, 18};

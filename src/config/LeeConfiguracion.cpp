@@ -94,20 +94,12 @@ std::string RutaConfiguracion(const Estado& e, std::string_view nombre) {
 }
 
 void AplicaOmisiones(Estado& e) {
+    // The defaults are written once, in the state record's declaration.
+    Estado defecto;
     for (int linea = 1; linea <= 4; ++linea) {
         for (const ItemConfiguracion& item : ItemsLinea(linea)) {
             if (!item.tieneOmision) continue;
-            std::visit(
-                [&](auto campo) {
-                    using T = std::remove_reference_t<decltype(campo(e))>;
-                    if constexpr (std::is_same_v<T, std::string>)
-                        campo(e).clear();
-                    else if constexpr (std::is_same_v<T, bool>)
-                        campo(e) = item.omision != 0;
-                    else
-                        campo(e) = static_cast<T>(item.omision);
-                },
-                item.campo);
+            std::visit([&](auto campo) { campo(e) = campo(defecto); }, item.campo);
         }
     }
 }

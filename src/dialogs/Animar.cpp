@@ -7,7 +7,8 @@
 
 #include "app/base/Aritmetica.h"
 #include "app/base/TablasFijas.h"
-#include "astro/Tiempo.h"
+#include "app/acciones/TiempoPresente.h"
+#include "app/estado/Tiempo.h"
 #include "platform/Reloj.h"
 #include "ui/controles/Interruptor.h"
 #include "ui/controles/Spin.h"
@@ -111,7 +112,7 @@ void Animar::done(int r) {
         if (e.PasoUnidad >= 1 && e.PasoUnidad <= 12) FijaPaso(e, e.PasoDias < 0 ? -1 : 1);
         if (e.TiempoReal) {
             if (c_.ArrancaTiempoReal) c_.ArrancaTiempoReal();
-            TiempoDesdeReloj(e, c_.c.TablaPlanetas, RelojLocal(e, reloj_()));
+            TiempoActual(e, c_.c.TablaPlanetas, reloj_());
             e.Cambiado = true;
         } else if (c_.ParaTiempoReal) {
             c_.ParaTiempoReal();

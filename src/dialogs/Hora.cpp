@@ -7,7 +7,8 @@
 #include "app/base/Aritmetica.h"
 #include "app/base/Texto1252.h"
 #include "astro/Calendario.h"
-#include "astro/Tiempo.h"
+#include "app/acciones/TiempoPresente.h"
+#include "app/estado/Tiempo.h"
 #include "app/acciones/HoraReglas.h"
 #include "platform/Reloj.h"
 #include "ui/controles/Estilo.h"
@@ -241,8 +242,7 @@ void Hora::validaPendientes() {
 }
 
 void Hora::fijaJuliana(double jd) {
-    c_.e.FechaJuliana = jd;
-    ActualizaTiempo(c_.e, c_.c.TablaPlanetas);
+    FijaFechaJuliana(c_.e, c_.c.TablaPlanetas, jd);
     c_.e.Cambiado = true;
     muestra();
 }
@@ -252,7 +252,7 @@ void Hora::pulsa(int indice) {
     Estado& e = c_.e;
     switch (indice) {
         case 41:
-            TiempoDesdeReloj(e, c_.c.TablaPlanetas, RelojLocal(e, reloj_()));
+            TiempoActual(e, c_.c.TablaPlanetas, reloj_());
             e.Cambiado = true;
             muestra();
             break;

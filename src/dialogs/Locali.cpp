@@ -13,8 +13,8 @@
 #include "app/base/Constantes.h"
 #include "app/base/Formato.h"
 #include "app/base/Texto1252.h"
-#include "astro/TextosAngulo.h"
-#include "astro/Tiempo.h"
+#include "app/base/TextosAngulo.h"
+#include "app/estado/Tiempo.h"
 #include "dialogs/piezas/CampoAngulo.h"
 #include "dialogs/piezas/FiltroLista.h"
 #include "app/acciones/LugarElegido.h"
@@ -104,13 +104,13 @@ Locali::Locali(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     PreparaAngulo(latitud_, e, TipoAngulo::Latitud);
     for (Spin* s : {longitud_, latitud_})
         connect(s, &Spin::almacenado, this, [this] {
-            TextoLongitud(ctx_.e.Longitud, &ctx_.e);
+            ActualizaLugar(ctx_.e, ctx_.c.TablaPlanetas);
             mapa_->Actualiza();
         });
     zona_ = new Spin(e, 27, this);
-    zona_->setAlmacen([&e](float v) {
-        e.ZonaHoraria = v;
-        MuestraFechas(e);
+    zona_->setAlmacen([this](float v) {
+        ctx_.e.ZonaHoraria = v;
+        ActualizaLugar(ctx_.e, ctx_.c.TablaPlanetas);
     });
     direccion_ = new Spin(e, 28, this);
     direccion_->setAlmacen([&e](float v) { e.Direccion = v * GRADO; });

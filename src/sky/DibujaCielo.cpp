@@ -4,8 +4,8 @@
 
 #include "app/base/Formato.h"
 #include "astro/Planetas.h"
-#include "astro/TextosAngulo.h"
-#include "astro/Tiempo.h"
+#include "app/base/TextosAngulo.h"
+#include "app/estado/Tiempo.h"
 #include "platform/NumerosLocales.h"
 #include "sky/Plotters.h"
 #include "sky/proyeccion/Proyeccion.h"
@@ -26,8 +26,8 @@ constexpr int16_t TIERRA = 3;
 
 void ActualizaPanel(Estado& e) {
     PanelInformacion& p = e.Panel;
-    p.Direccion = " Direcci\xF3n = " + TextoDireccion(e.Direccion, &e);
-    p.Elevacion = " Elevaci\xF3n = " + TextoGrados(e.Elevacion, &e);
+    p.Direccion = " Direcci\xF3n = " + TextoDireccion(e.Direccion);
+    p.Elevacion = " Elevaci\xF3n = " + TextoGrados(e.Elevacion);
     p.Zoom = " Zoom = " + plataforma::NumeroLocal(Formato(e.Zoom, "#0.0"));
     MuestraFechas(e);
     p.FechaUniversal = "T. U. = " + e.Fechas[0].Dia + " / " + e.Fechas[0].Mes + " / " + e.Fechas[0].Ano;

@@ -12,7 +12,7 @@
 #include <cmath>
 
 #include "app/base/Texto1252.h"
-#include "astro/TextosAngulo.h"
+#include "app/base/TextosAngulo.h"
 #include "config/EscrituraSegura.h"
 #include "sky/DibujaCielo.h"
 

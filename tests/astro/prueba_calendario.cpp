@@ -9,7 +9,7 @@
 
 #include "app/base/ErrorEjecucion.h"
 #include "astro/Calendario.h"
-#include "astro/Tiempo.h"
+#include "app/estado/Tiempo.h"
 
 using namespace vedrano;
 

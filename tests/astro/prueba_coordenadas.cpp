@@ -6,6 +6,7 @@
 #include <random>
 
 #include "app/base/ErrorEjecucion.h"
+#include "app/estado/Rotaciones.h"
 #include "astro/Coordenadas.h"
 #include "sky/proyeccion/Proyeccion.h"
 

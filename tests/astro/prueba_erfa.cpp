@@ -10,7 +10,9 @@
 #include <string>
 #include <vector>
 
+#include "app/estado/Astros.h"
 #include "app/estado/Estado.h"
+#include "app/estado/Rotaciones.h"
 #include "astro/Coordenadas.h"
 #include "astro/Planetas.h"
 #include "astro/Precesion.h"
@@ -83,17 +85,15 @@ void Referencia(int indice, double jd, double& ar, double& dec) {
     DeFecha(tt, p, ar, dec);
 }
 
-// The program's place of the same record at Latitud 0 (no parallax stand-in).
+// The program's place of the same record at latitude 0 (no parallax
+// stand-in), from the astronomy's values alone.
 void Programa(const TablaPlanetas& t, int indice, double jd, double& ar, double& dec) {
-    Estado e;
-    e.FechaJuliana = jd;
-    e.Latitud = 0;
-    HallaTiempoSidereo(e, t);
-    if (indice == 10) HallaSolAparente(e);
-    else if (indice == 11) HallaLuna(e);
-    else HallaPlaneta(e, t, static_cast<int16_t>(indice));
-    ar = e.Planetas[indice].AscRecta;
-    dec = e.Planetas[indice].Declinacion;
+    PosicionSol sol = HallaSol(jd, t[3]);
+    PosicionCuerpo p = indice == 10   ? HallaSolAparente(sol.tierra)
+                       : indice == 11 ? HallaLuna(jd, 0)
+                                      : HallaPlaneta(jd, t[static_cast<std::size_t>(indice)], sol.sol);
+    ar = p.AscRecta;
+    dec = p.Declinacion;
 }
 
 struct Errores {
@@ -248,5 +248,21 @@ TEST(Erfa, PlanetasSiguenPlan94) {
         Errores milenio = ErroresCuerpo(t, tol.indice, DC_1000, DC_3000);
         EXPECT_LT(milenio.maximo, tol.maxMilenio) << "record " << tol.indice;
         EXPECT_LT(milenio.mediana, tol.medianaMilenio) << "record " << tol.indice;
+    }
+}
+
+// A planet of the state takes the Sun of its own instant: whatever an earlier
+// computation left in SolX and SolZ, Mars stays where ERFA puts it.
+TEST(Erfa, PlanetaDelEstadoSinSolPrevio) {
+    TablaPlanetas t = Tabla();
+    for (double jd : Fechas(DC_1900, DC_2100, 40)) {
+        Estado e;
+        e.FechaJuliana = jd;
+        e.SolX = 0.8;  // the Sun of another instant
+        e.SolZ = -0.6;
+        HallaPlaneta(e, t, 4);
+        double ar, dec;
+        Referencia(4, jd, ar, dec);
+        EXPECT_LT(eraSeps(e.Planetas[4].AscRecta, e.Planetas[4].Declinacion, ar, dec) * ERFA_DR2D, 5.5) << jd;
     }
 }

@@ -223,13 +223,13 @@ TEST_F(Configuracion, ReglasDelNombreYPreguntaAntesDeSustituir) {
     EXPECT_EQ(Archivos(), std::vector<std::string>{"a.ls1"});
     ui.vistos.clear();
 
-    // Declining leaves the old file and RespuestaMensaje false.
+    // Declining leaves the old file, with no error.
     std::string antes = Lee(carpeta / "a.ls1");
     e.Zoom = 7;
     ui.respuesta = 0;
     ResultadoConfiguracion r = EscribeConfiguracion(e, "a", ui, false);
     EXPECT_FALSE(r.escrito);
-    EXPECT_EQ(e.RespuestaMensaje, 0);
+    EXPECT_EQ(r.error, 0);
     ASSERT_EQ(ui.vistos.size(), 1u);
     EXPECT_EQ(ui.vistos[0].botones, 2);
     EXPECT_EQ(ui.vistos[0].texto.rfind(A1252("Ya existe un archivo con ese  nombre.  ¿Desea"), 0), 0u);
@@ -237,7 +237,6 @@ TEST_F(Configuracion, ReglasDelNombreYPreguntaAntesDeSustituir) {
     // Accepting replaces it; the work file is replaced without asking.
     ui.respuesta = -1;
     EXPECT_TRUE(EscribeConfiguracion(e, "a", ui, false).escrito);
-    EXPECT_NE(e.RespuestaMensaje, 0);
     EXPECT_NE(Lee(carpeta / "a.ls1"), antes);
     ui.vistos.clear();
     EXPECT_TRUE(EscribeConfiguracion(e, "Temporal.wrk", ui, true).escrito);

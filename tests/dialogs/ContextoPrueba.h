@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "app/base/Texto1252.h"
-#include "astro/Tiempo.h"
+#include "app/estado/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
 #include "ui/formas/ContextoDialogo.h"
 #include "sky/DibujaCielo.h"

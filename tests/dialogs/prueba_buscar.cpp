@@ -13,6 +13,7 @@
 #include "../ui/Falsos.h"
 #include "ContextoPrueba.h"
 #include "app/base/Constantes.h"
+#include "app/estado/Astros.h"
 #include "astro/Coordenadas.h"
 #include "astro/Planetas.h"
 #include "astro/Sidereo.h"

@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "astro/Calendario.h"
-#include "astro/Tiempo.h"
+#include "app/estado/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
 #include "catalogue/MovimientosPropios.h"
 #include "app/acciones/ObjetivoBusqueda.h"

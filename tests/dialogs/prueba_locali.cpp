@@ -11,7 +11,7 @@
 #include "../ui/Falsos.h"
 #include "ContextoPrueba.h"
 #include "app/base/Constantes.h"
-#include "astro/TextosAngulo.h"
+#include "app/base/TextosAngulo.h"
 #include "dialogs/Locali.h"
 #include "dialogs/MapaMundi.h"
 #include "ui/controles/BotonDialogo.h"

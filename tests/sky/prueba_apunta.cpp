@@ -6,7 +6,7 @@
 
 #include "app/base/Texto1252.h"
 #include "astro/Coordenadas.h"
-#include "astro/Tiempo.h"
+#include "app/estado/Tiempo.h"
 #include "catalogue/TablaPlanetas.h"
 #include "sky/apunta/Apunta.h"
 #include "sky/proyeccion/Proyeccion.h"

@@ -10,8 +10,9 @@
 #include <sstream>
 
 #include "app/base/Constantes.h"
+#include "app/estado/Rotaciones.h"
 #include "astro/Coordenadas.h"
-#include "astro/Tiempo.h"
+#include "app/estado/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
 #include "catalogue/EstrellasProfundas.h"
 #include "sky/DibujaCielo.h"

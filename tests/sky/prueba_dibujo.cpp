@@ -7,10 +7,12 @@
 #include <QGuiApplication>
 #include <cmath>
 
+#include "app/estado/Astros.h"
+#include "app/estado/Rotaciones.h"
 #include "astro/Calendario.h"
 #include "astro/Planetas.h"
 #include "astro/Coordenadas.h"
-#include "astro/Tiempo.h"
+#include "app/estado/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
 #include "config/LeeConfiguracion.h"
 #include "sky/DibujaCielo.h"

@@ -170,7 +170,7 @@ TEST_F(Controles, PulsadorBajaYSubeAntesDeActuar) {
     pruebas::Clic(&b, QPoint(50, 10));
     EXPECT_EQ(acciones, 1);
     EXPECT_EQ(f.reloj.ahora - antes, 211u);
-    EXPECT_EQ(e.FilaPulsador, 46);
+    EXPECT_EQ(b.filaCara(), 46);
     // Released outside the button: no action.
     Raton(&b, QEvent::MouseButtonRelease, QPoint(250, 10));
     EXPECT_EQ(acciones, 1);

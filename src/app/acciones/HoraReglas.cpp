@@ -7,6 +7,7 @@
 #include "app/base/Aritmetica.h"
 #include "app/base/Formato.h"
 #include "app/base/TablasFijas.h"
+#include "app/estado/Tiempo.h"
 #include "astro/Calendario.h"
 
 namespace vedrano {

@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "app/base/Constantes.h"
-#include "astro/TextosAngulo.h"
-#include "astro/Tiempo.h"
+#include "app/base/TextosAngulo.h"
+#include "app/estado/Tiempo.h"
 
 namespace vedrano {
 
@@ -26,8 +26,7 @@ double Distancia(double lon1, double lat1, double lon2, double lat2) {
 }  // namespace
 
 float ZonaPropuesta(Estado& e, const std::string& nombre) {
-    TextoLongitud(e.Longitud, &e);  // leaves the whole degrees in GradosLongitud
-    double zona = std::floor((std::abs(e.GradosLongitud) + 22.5) / 15.0) - 1.0;
+    double zona = std::floor((std::abs(GradosLongitud(e.Longitud)) + 22.5) / 15.0) - 1.0;
     if (e.Longitud < 3.1415926536) zona = -zona;
     if (EsEspanol(nombre)) {
         zona = 1.0;
@@ -52,10 +51,8 @@ bool EligeLugar(Estado& e, const Catalogos& c, int i, bool restaurando) {
     if (!restaurando) {
         e.TextoLugar = TextoLugarCiudad(nombre);
         e.ZonaHoraria = ZonaPropuesta(e, nombre);
-    } else {
-        TextoLongitud(e.Longitud, &e);
     }
-    MuestraFechas(e);
+    ActualizaLugar(e, c.TablaPlanetas);
     return true;
 }
 
@@ -70,7 +67,7 @@ void FijaPuntoPropio(Estado& e, const Catalogos& c, double longitudOeste, double
     e.Latitud = latitud;
     e.TextoLugar = "Lugar propio";
     e.ZonaHoraria = ZonaPropuesta(e, std::string());
-    MuestraFechas(e);
+    ActualizaLugar(e, c.TablaPlanetas);
 }
 
 double GradosOeste(double longitud) {

@@ -4,9 +4,8 @@
 #include <limits>
 
 #include "app/base/ErrorEjecucion.h"
-#include "astro/Planetas.h"
-#include "astro/Precesion.h"
-#include "astro/Sidereo.h"
+#include "app/estado/Astros.h"
+#include "app/estado/Rotaciones.h"
 #include "catalogue/MovimientosPropios.h"
 #include "sky/proyeccion/Proyeccion.h"
 #include "sky/proyeccion/SistemaSolar.h"

@@ -7,19 +7,12 @@
 #include <cstdint>
 #include <string>
 
+#include "astro/Coordenadas.h"
+#include "astro/Cuerpos.h"
 #include "astro/PrecisionAlta.h"
 #include "config/Preferencias.h"
 
 namespace vedrano {
-
-// Results of the solar-system computations for one body (indices 1..11):
-// ecliptic longitude and equatorial place in radians, the direction as a
-// 32-bit unit vector and its projected screen point.
-struct PosicionCuerpo {
-    double LongGeo = 0, AscRecta = 0, Declinacion = 0;
-    float x = 0, y = 0, z = 0;
-    float X = 0, Y = 0, Z = 0;
-};
 
 // The four date fields and the time field shown for one kind of time.
 struct CamposFecha {
@@ -33,9 +26,8 @@ struct DerivadosRotacion {
     bool precesionLista = false;
     bool alta = false;  // the cached matrix is the precise model's, for date `zeta`
     double p[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
-    double sidereo = 0, latitud = 0;  // angles of the cached horizon rotation
     bool horizonteListo = false;
-    double cs = 1, ss = 0, cf = 1, sf = 0;
+    RotacionHorizonte horizonte;
     double giro = 0, elevacion = 0;  // angles of the cached view rotation
     bool vistaLista = false;
     double cc = 1, sc = 0, cd = 1, sd = 0;
@@ -134,7 +126,7 @@ struct Estado {
     // Pointing.
     double ObjetivoAR = 0, ObjetivoDEC = 0;
     float CursorAltitud = 0, CursorAzimut = 0;
-    bool PanelCursor = false, Marcar = false, MarcaVisible = false, ClickArmado = false;
+    bool PanelCursor = false, Marcar = false, MarcaVisible = false;
     bool CentrandoObjeto = false, Centrado = false;
     bool CorreccionLuna = false;  // one-shot extra time step of the next centring (the Moon's motion)
 
@@ -145,7 +137,6 @@ struct Estado {
     bool Cambiado = false, RedibujoPermitido = true, SalidaConfirmada = false;
     int16_t CursorActual = 21;
     int16_t ContadorTiempoReal = 0;
-    int16_t FilaPulsador = 0;
     int16_t RespuestaMensaje = 0;  // 0 = Cancel
     int16_t BotonesMensaje = 1, IconoMensaje = 0, TemaMensaje = 0;  // of the last message shown
 
@@ -159,18 +150,11 @@ struct Estado {
     bool SoloLectura = false;
     static constexpr const char* SaltoLinea = "\r\n";
 
-    // Scratch results of the angle texts.
-    std::string NombreRumbo;
-    int16_t GradosEnteros = 0;
-    double GradosAux = 0;
-    int16_t GradosLongitud = 0;
-
-    // The shared 16-bit loop counter.
-    int16_t Contador = 0;
-
+    // Filled on demand by the projection from a const state; what it holds
+    // follows from the fields above, so it never changes what is drawn.
     mutable DerivadosRotacion Derivados;
     // The precise model's Earth and rotation of the last instant computed.
-    mutable InstantePreciso InstanteAlta;
+    InstantePreciso InstanteAlta;
 };
 
 }  // namespace vedrano

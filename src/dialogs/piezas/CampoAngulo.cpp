@@ -9,7 +9,7 @@
 #include "app/base/Constantes.h"
 #include "app/base/TablasControles.h"
 #include "app/base/Texto1252.h"
-#include "astro/TextosAngulo.h"
+#include "app/base/TextosAngulo.h"
 #include "ui/controles/Estilo.h"
 
 namespace vedrano {

@@ -5,9 +5,9 @@
 
 #include "app/base/Constantes.h"
 #include "app/base/Texto1252.h"
+#include "app/base/TextosAngulo.h"
+#include "app/estado/Tiempo.h"
 #include "astro/PrecisionAlta.h"
-#include "astro/TextosAngulo.h"
-#include "astro/Tiempo.h"
 #include "config/EscribeConfiguracion.h"
 #include "sky/proyeccion/Proyeccion.h"
 
@@ -46,19 +46,18 @@ bool CentraObjeto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m)
     if (S > e.ObjetivoAR) e.ObjetivoAR += DOS_PI;
     double dias = (e.ObjetivoAR - S) / DOS_PI;
     if (e.Pref.PrecisionAlta) dias /= DIAS_SIDEREOS;
-    e.FechaJuliana += dias;
+    double jd = e.FechaJuliana + dias;
     if (e.CorreccionLuna) {
-        e.FechaJuliana += dias * (11.5 * GRADO) / DOS_PI;
+        jd += dias * (11.5 * GRADO) / DOS_PI;
         e.CorreccionLuna = false;
     }
-    ActualizaTiempo(e, planetas);
+    FijaFechaJuliana(e, planetas, jd);
 
-    e.Elevacion = delta - phi + 1.5707963268;
-    if (e.Elevacion > 1.5707963268) e.Elevacion = 3.1415926536 - e.Elevacion;
+    double elevacion = delta - phi + 1.5707963268;
+    if (elevacion > 1.5707963268) elevacion = 3.1415926536 - elevacion;
     // The precise model draws the target lifted by the atmosphere.
-    if (e.Pref.PrecisionAlta) e.Elevacion = std::min(1.5707963268, e.Elevacion + Refraccion(e.Elevacion));
-    e.Direccion = delta < phi ? 3.1415926536 : 0.0;
-    GiraDireccion(e);
+    if (e.Pref.PrecisionAlta) elevacion = std::min(1.5707963268, elevacion + Refraccion(elevacion));
+    FijaVista(e, delta < phi ? 3.1415926536 : 0.0, elevacion);
     e.CentrandoObjeto = false;
     e.Centrado = true;
     return true;
@@ -98,9 +97,7 @@ bool LlevaPunto(Estado& e, const PuntoHorizonte& h, float X, float Y) {
         if (std::fabs(dAz) < 1e-7 && std::fabs(dAlt) < 1e-7) break;
         double d = std::fmod(e.Direccion + dAz, DOS_PI);
         if (d < 0) d += DOS_PI;
-        e.Direccion = d;
-        e.Elevacion = std::clamp(e.Elevacion + dAlt, 0.0, 1.5707963268);
-        GiraDireccion(e);
+        FijaVista(e, d, std::clamp(e.Elevacion + dAlt, 0.0, 1.5707963268));
     }
     return true;
 }

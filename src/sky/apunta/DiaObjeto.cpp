@@ -5,9 +5,9 @@
 
 #include "app/base/Aritmetica.h"
 #include "astro/Coordenadas.h"
-#include "astro/Precesion.h"
-#include "astro/TextosAngulo.h"
-#include "astro/Tiempo.h"
+#include "app/estado/Rotaciones.h"
+#include "app/base/TextosAngulo.h"
+#include "app/estado/Tiempo.h"
 #include "catalogue/MovimientosPropios.h"
 #include "sky/proyeccion/Proyeccion.h"
 #include "sky/proyeccion/SistemaSolar.h"
@@ -78,8 +78,7 @@ DiaObjeto HallaDia(const Estado& e, const TablaPlanetas& planetas, const ObjetoD
     Estado w = e;
     w.Precesion = false;  // a fixed place is carried to the date once, below
     auto en = [&](double jd) {
-        w.FechaJuliana = jd;
-        ActualizaTiempo(w, planetas);
+        FijaFechaJuliana(w, planetas, jd);
     };
     SidereoEn sidereo = [&](double jd) {
         en(jd);

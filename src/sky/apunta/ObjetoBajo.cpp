@@ -8,8 +8,8 @@
 #include "app/base/Aritmetica.h"
 #include "app/base/Constantes.h"
 #include "astro/Coordenadas.h"
-#include "astro/Precesion.h"
-#include "astro/TextosAngulo.h"
+#include "app/estado/Rotaciones.h"
+#include "app/base/TextosAngulo.h"
 #include "catalogue/MovimientosPropios.h"
 #include "sky/proyeccion/Proyeccion.h"
 

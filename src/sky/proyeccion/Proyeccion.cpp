@@ -5,7 +5,7 @@
 
 #include "app/base/Aritmetica.h"
 #include "app/base/Constantes.h"
-#include "astro/Precesion.h"
+#include "app/estado/Rotaciones.h"
 #include "astro/PrecisionAlta.h"
 
 namespace vedrano {
@@ -168,10 +168,11 @@ void ConstruyeMatriz(const Estado& e, int desde, bool precesion, double m[3][3],
         }
         double X1 = v[0], Y2 = v[1], Z2 = v[2];
         if (desde < 2) {
-            X1 = v[0] * r.cs + v[2] * r.ss;
-            double Z1 = v[2] * r.cs - v[0] * r.ss;
-            Y2 = v[1] * r.cf - Z1 * r.sf;
-            Z2 = Z1 * r.cf + v[1] * r.sf;
+            const RotacionHorizonte& h = r.horizonte;
+            X1 = v[0] * h.cs + v[2] * h.ss;
+            double Z1 = v[2] * h.cs - v[0] * h.ss;
+            Y2 = v[1] * h.cf - Z1 * h.sf;
+            Z2 = Z1 * h.cf + v[1] * h.sf;
         }
         if (hastaHorizonte) {
             m[0][j] = X1, m[1][j] = Y2, m[2][j] = Z2;
@@ -311,8 +312,6 @@ void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, flo
         dec = 99;
     }
 }
-
-void GiraDireccion(Estado& e) { e.DireccionGirada = e.Direccion - PI; }
 
 void AjustaEscala(Estado& e, int anchoPixeles, int altoPixeles) {
     float signo = e.Orientacion == 1 ? 1.0f : -1.0f;

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "app/estado/Estado.h"
+#include "app/estado/Vista.h"
 #include "astro/Coordenadas.h"
 
 namespace vedrano {
@@ -81,9 +82,6 @@ PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h);
 // 99; altitude and azimuth are then left as they were when not reached.
 void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, float& altitud,
                  float& azimut);
-
-// The turned azimuth: Direccion - pi.
-void GiraDireccion(Estado& e);
 
 // The user scale from the zoom and the orientation flag, and the depth
 // threshold below which a point cannot fall inside the picture. With a

@@ -1,5 +1,6 @@
 #include "sky/proyeccion/SistemaSolar.h"
 
+#include "app/estado/Astros.h"
 #include "astro/Coordenadas.h"
 #include "astro/Planetas.h"
 #include "astro/PrecisionAlta.h"

@@ -10,7 +10,7 @@
 
 #include "app/base/TablasControles.h"
 #include "app/base/Texto1252.h"
-#include "astro/TextosAngulo.h"
+#include "app/base/TextosAngulo.h"
 #include "config/LeeConfiguracion.h"
 #include "platform/qt/PantallaQt.h"
 #include "sky/DibujaCielo.h"
@@ -259,11 +259,11 @@ void Cielo::BotonSoltado(int k) {
         case 7: Abre(dialogos_.Impresor); break;
         case 8: contexto_.Ayuda(1020); break;
         case 9: {
-            e_.RespuestaMensaje = -1;
-            mensajes_.Mensaje(A1252("Va a abandonar el programa  VEDRANO.   Para confirmarlo pulse el  Botón  Aceptar.   "
-                                    "Para volver al programa pulse el Botón Cancelar."),
-                              "Salir de VEDRANO", 2, 2);
-            if (e_.RespuestaMensaje != 0) {
+            const int16_t respuesta =
+                mensajes_.Mensaje(A1252("Va a abandonar el programa  VEDRANO.   Para confirmarlo pulse el  Botón  Aceptar.   "
+                                        "Para volver al programa pulse el Botón Cancelar."),
+                                  "Salir de VEDRANO", 2, 2);
+            if (respuesta != 0) {
                 cerrando_ = true;
                 close();
                 QApplication::quit();

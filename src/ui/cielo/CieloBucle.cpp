@@ -5,7 +5,7 @@
 #include "app/base/Texto1252.h"
 #include "astro/Planetas.h"
 #include "sky/proyeccion/SistemaSolar.h"
-#include "astro/Tiempo.h"
+#include "app/estado/Tiempo.h"
 #include "sky/proyeccion/Proyeccion.h"
 #include "ui/cielo/Cielo.h"
 #include "ui/cielo/Paneles.h"
@@ -139,8 +139,7 @@ void Cielo::TicTiempoReal() {
     tiempoReal_->FijaTexto(tiempoReal_->Texto().isEmpty() ? QStringLiteral("Animando tiempo real") : QString());
     if (e_.ContadorTiempoReal >= 60) {
         e_.RedibujoPermitido = false;
-        e_.FechaJuliana += 1.0 / 1440.0;
-        ActualizaTiempo(e_, c_.TablaPlanetas);
+        FijaFechaJuliana(e_, c_.TablaPlanetas, e_.FechaJuliana + 1.0 / 1440.0);
         e_.RedibujoPermitido = true;
         vista_->ActualizaCielo();
         e_.ContadorTiempoReal = 0;

@@ -134,7 +134,7 @@ void VistaCielo::mouseMoveEvent(QMouseEvent* ev) {
             (ev->position() - presion_).manhattanLength() >= QApplication::startDragDistance()) {
             // Past the drag distance the press is no longer a click.
             arrastrando_ = true;
-            e_.ClickArmado = false;
+            clickArmado_ = false;
             setCursor(plataforma::CursorNumero(cursor::ManoCerrada));
         }
         if (arrastrando_) {
@@ -146,7 +146,7 @@ void VistaCielo::mouseMoveEvent(QMouseEvent* ev) {
 }
 
 void VistaCielo::mousePressEvent(QMouseEvent* ev) {
-    e_.ClickArmado = true;
+    clickArmado_ = true;
     arrastrando_ = false;
     agarrado_ = false;
     if (ev->button() != Qt::LeftButton) return;
@@ -158,8 +158,8 @@ void VistaCielo::mousePressEvent(QMouseEvent* ev) {
 void VistaCielo::mouseReleaseEvent(QMouseEvent* ev) {
     if (arrastrando_) setCursor(Qt::CrossCursor);
     agarrado_ = arrastrando_ = false;
-    if (!e_.ClickArmado) return;
-    e_.ClickArmado = false;
+    if (!clickArmado_) return;
+    clickArmado_ = false;
     if (ev->button() == Qt::RightButton) {
         if (e_.Marcar) DibujaMarca(ev->position());
         return;

@@ -73,6 +73,7 @@ private:
     QPointF presion_;
     PuntoHorizonte agarre_;
     bool agarrado_ = false, arrastrando_ = false;
+    bool clickArmado_ = false;  // a press on the sky that may still end as a click
     int restoRueda_ = 0;  // wheel eighths of a degree not yet a step
     bool listo_ = false, avisado_ = false;
 };

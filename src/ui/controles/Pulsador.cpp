@@ -25,7 +25,6 @@ QSize Pulsador::sizeHint() const {
 
 void Pulsador::dibuja(bool pulsado, bool conSonido) {
     pulsado_ = pulsado;
-    e_.FilaPulsador = static_cast<int16_t>(pulsado ? celda::CARA_FILA_PULSADA : celda::CARA_FILA_SUELTA);
     repaint();
     if (conSonido && sonidoUnico_ == 0) Suena(e_, 0, pulsado ? 6 : 7);
     if (pulsado) Espera(e_, 210);

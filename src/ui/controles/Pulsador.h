@@ -6,6 +6,7 @@
 #include <string>
 
 #include "ui/controles/ControlDibujado.h"
+#include "ui/controles/Estilo.h"
 
 namespace vedrano::controles {
 
@@ -17,9 +18,11 @@ public:
     // A button of the same look whose label is not in the table.
     Pulsador(Estado& e, const QString& rotulo, QWidget* padre = nullptr);
 
-    // Draws the face pressed or released, recording its face row in the
-    // state; with sound, 6 going down (then the pause) and 7 coming up.
+    // Draws the face pressed or released; with sound, 6 going down (then
+    // the pause) and 7 coming up.
     void dibuja(bool pulsado, bool conSonido);
+    // The row of the bitmap the face is drawn from, as last drawn.
+    int filaCara() const { return pulsado_ ? celda::CARA_FILA_PULSADA : celda::CARA_FILA_SUELTA; }
     // The press of a click: down, up, then `accionado`.
     void pulsa();
     // Replaces the two press sounds by one sound played after the press

@@ -1,4 +1,4 @@
-#include "astro/TextosAngulo.h"
+#include "app/base/TextosAngulo.h"
 
 #include <cmath>
 
@@ -14,44 +14,57 @@ namespace {
 constexpr const char* RUMBOS = "N NEE SES SOO NO";
 constexpr char SIGNO_GRADO = '\xB0';
 
-}  // namespace
-
-std::string TextoSexagesimal(double angulo, Estado* e) {
-    std::string signo = angulo < 0 ? "-" : "";
+// Degrees of an angle as the sexagesimal text counts them.
+double GradosSexagesimales(double angulo) {
     // The 5e-7 rad lifts values that lie a hair below a whole second.
     double g = (std::fabs(angulo) + 5e-7) * RAD_A_GRADOS;
     if (g >= 360) g = g - 360;
+    return g;
+}
+
+// A west-positive longitude as written: east of Greenwich when above pi.
+bool AlEste(double& lon) {
+    if (!(lon > PI)) return false;
+    lon = DOS_PI - lon;
+    return true;
+}
+
+}  // namespace
+
+std::string TextoSexagesimal(double angulo) {
+    std::string signo = angulo < 0 ? "-" : "";
+    double g = GradosSexagesimales(angulo);
     double D = Int(g);
     double M = Int((g - D) * 60);
     double S = Int(((g - D) - M / 60) * 3600);
-    if (e) e->GradosAux = D;
     return signo + Formato(D, "@@@") + SIGNO_GRADO + Formato(M, " 00") + "'" + Formato(S, " 00") + "\"";
 }
 
-std::string TextoLatitud(double lat, Estado* e) {
+std::string TextoLatitud(double lat) {
     const char* sufijo = lat < 0 ? " S" : " N";
-    return Right(TextoSexagesimal(std::fabs(lat), e), 11) + sufijo;
+    return Right(TextoSexagesimal(std::fabs(lat)), 11) + sufijo;
 }
 
-std::string TextoLongitud(double lon, Estado* e) {
-    const char* sufijo = " O";
-    if (lon > PI) {
-        lon = DOS_PI - lon;
-        sufijo = " E";
-    }
-    Estado local;
-    Estado* destino = e ? e : &local;
-    std::string texto = TextoSexagesimal(lon, destino) + sufijo;
-    destino->GradosLongitud = CInt(destino->GradosAux);
+int16_t GradosLongitud(double lon) {
+    AlEste(lon);
+    return CInt(Int(GradosSexagesimales(lon)));
+}
+
+std::string TextoLongitud(double lon) {
+    double escrita = lon;
+    const char* sufijo = AlEste(escrita) ? " E" : " O";
+    std::string texto = TextoSexagesimal(escrita) + sufijo;
+    // The whole degrees are a 16-bit number where the place's zone is
+    // guessed from them; a longitude past that range is refused here too.
+    GradosLongitud(lon);
     return texto;
 }
 
-std::string TextoHoras(float ar, Estado* e) {
+std::string TextoHoras(float ar) {
     float g = ASingle(ar * RAD_A_GRADOS);
     double H = Int(g / 15.0);
     double M = Int((g - 15 * H) * 4);
     double S = std::nearbyint((g - 15 * H - M / 4) * 240);
-    if (e) e->GradosAux = H;
     if (S > 59) {
         S = 0;
         M = M + 1;
@@ -71,7 +84,7 @@ std::string TextoHoras(float ar, Estado* e) {
     return texto;
 }
 
-std::string TextoDireccion(double az, Estado* e) {
+std::string TextoDireccion(double az) {
     float a = ASingle(az + PI / 8);
     if (a >= 6.2831855f) a = 0;
     // A negative azimuth gives a sector below 1, which the string function
@@ -82,16 +95,11 @@ std::string TextoDireccion(double az, Estado* e) {
     long sector = static_cast<long>(k);
     std::string rumbo = Mid(RUMBOS, 2 * sector - 1, 2);
     int16_t grados = CInt(az * RAD_A_GRADOS);
-    if (e) {
-        e->NombreRumbo = rumbo;
-        e->GradosEnteros = grados;
-    }
     return Formato(grados, "@@@") + SIGNO_GRADO + " " + rumbo;
 }
 
-std::string TextoGrados(double angulo, Estado* e) {
+std::string TextoGrados(double angulo) {
     int16_t grados = CInt(angulo * RAD_A_GRADOS);
-    if (e) e->GradosEnteros = grados;
     return Formato(grados, "@@") + SIGNO_GRADO;
 }
 

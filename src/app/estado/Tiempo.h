@@ -1,5 +1,6 @@
-// The current instant: its refresh after every change, the time step of
-// animation and real-time motion, the clock, and the date and time texts.
+// The current instant over the state: the refresh after every change, the
+// time step of animation and real-time motion, the setting from a clock
+// reading, the broken-down calendar fields and the date and time texts.
 #pragma once
 
 #include "app/estado/Estado.h"
@@ -11,23 +12,35 @@ namespace vedrano {
 // and the Sun, and (precession on) the precession angles.
 void ActualizaTiempo(Estado& e, const TablaPlanetas& planetas);
 
+// The refresh after a change of place (or of its zone): the date texts and
+// the sidereal time with the Sun, by the model in use. Every writer of
+// Longitud, Latitud or ZonaHoraria runs it afterwards.
+void ActualizaLugar(Estado& e, const TablaPlanetas& planetas);
+
+// Sets the instant and runs the refresh, as every change of FechaJuliana
+// must: callers set the instant through here, not by writing the field.
+void FijaFechaJuliana(Estado& e, const TablaPlanetas& planetas, double jd);
+
 // One step of PasoCantidad units of PasoUnidad in the direction of the sign
 // of PasoDias. Units 10..12 move the calendar year and keep day, month and
 // time (29 February landing in a common year becomes 1 March).
 void AvanzaTiempo(Estado& e, const TablaPlanetas& planetas);
 
-// Sets FechaJuliana to the present moment, cut to whole minutes: the
-// system's Universal Time made the observer's civil time (configured zone
-// and summer time), then taken back by the same amount. The computer's own
-// zone plays no part, wherever the computer is.
-void TiempoActual(Estado& e, const TablaPlanetas& planetas);
-// The same from a given local clock reading (days since 30 December 1899).
+// Sets FechaJuliana from a local clock reading (days since 30 December
+// 1899, the observer's civil time), cut to whole minutes, and refreshes.
 void TiempoDesdeReloj(Estado& e, const TablaPlanetas& planetas, double fechaHoraLocal);
 
 // The observer's civil date and time (days since 30 December 1899) for a
 // Universal-Time reading of the same scale: the zone and the summer hour
 // added.
 double RelojLocal(const Estado& e, double fechaHoraUniversal);
+
+// Breaks a Julian day into FecAno, FecMes, FecDia, FecHora, FecMinuto and
+// FecFraccion of the state (scratch fields: whichever day was broken last).
+void JulianaAFecha(Estado& e, double jd);
+
+// The compact date text of the state's broken-down fields.
+std::string ArmaCadenaFecha(const Estado& e);
 
 // Leaves the display texts of a Julian day in TextoFecha ("dd / mm / yyyyy")
 // and TextoHora ("hh:mm", or with " AM"/" PM" when FormatoHora is not 1).

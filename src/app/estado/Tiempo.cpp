@@ -1,13 +1,12 @@
-#include "astro/Tiempo.h"
+#include "app/estado/Tiempo.h"
 
 #include "app/base/Aritmetica.h"
 #include "app/base/Formato.h"
 #include "app/base/TablasFijas.h"
+#include "app/estado/Astros.h"
+#include "app/estado/Rotaciones.h"
 #include "astro/Calendario.h"
-#include "astro/Precesion.h"
 #include "astro/PrecisionAlta.h"
-#include "astro/Sidereo.h"
-#include "platform/Reloj.h"
 
 namespace vedrano {
 
@@ -17,13 +16,22 @@ double Adelanto(const Estado& e) { return e.HorarioVerano ? 1.0 / 24.0 : 0.0; }
 
 }  // namespace
 
-void ActualizaTiempo(Estado& e, const TablaPlanetas& planetas) {
+void ActualizaLugar(Estado& e, const TablaPlanetas& planetas) {
     MuestraFechas(e);
     HallaTiempoSidereo(e, planetas);
     // The precise model turns the sky by the apparent sidereal time; the
     // classic Sun of the table stays as it was computed.
     if (e.Pref.PrecisionAlta) e.TiempoSidereo = TiempoSidereoAparente(e.FechaJuliana, e.Longitud);
+}
+
+void ActualizaTiempo(Estado& e, const TablaPlanetas& planetas) {
+    ActualizaLugar(e, planetas);
     if (e.Precesion) HallaPrecesion(e);
+}
+
+void FijaFechaJuliana(Estado& e, const TablaPlanetas& planetas, double jd) {
+    e.FechaJuliana = jd;
+    ActualizaTiempo(e, planetas);
 }
 
 void FijaPaso(Estado& e, int signo) {
@@ -33,33 +41,42 @@ void FijaPaso(Estado& e, int signo) {
 
 void AvanzaTiempo(Estado& e, const TablaPlanetas& planetas) {
     e.TiempoCambiado = false;
+    double jd = e.FechaJuliana;
     if (e.PasoUnidad >= 1 && e.PasoUnidad <= 9) {
-        e.FechaJuliana = e.FechaJuliana + e.PasoDias;
+        jd = e.FechaJuliana + e.PasoDias;
     } else if (e.PasoUnidad >= 10 && e.PasoUnidad <= 12) {
         JulianaAFecha(e, e.FechaJuliana);
         double s = e.PasoCantidad * Tablas().LongUnidad[static_cast<std::size_t>(e.PasoUnidad)];
         if (e.PasoDias < 0) s = -s;
         // Plain arithmetic on the historical year: a result of 0 reads as 1 AD.
         e.FecAno = A16(e.FecAno + int64_t{CInt(s)});
-        e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(e));
+        jd = FechaAJuliana(ArmaCadenaFecha(e));
     }
-    ActualizaTiempo(e, planetas);
+    FijaFechaJuliana(e, planetas, jd);
     e.TiempoCambiado = true;
 }
 
 void TiempoDesdeReloj(Estado& e, const TablaPlanetas& planetas, double fechaHoraLocal) {
-    e.FechaJuliana = (fechaHoraLocal + 2415018.5) - e.ZonaHoraria / 24.0 - Adelanto(e);
-    JulianaAFecha(e, e.FechaJuliana);
-    e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(e));
-    ActualizaTiempo(e, planetas);
+    JulianaAFecha(e, (fechaHoraLocal + 2415018.5) - e.ZonaHoraria / 24.0 - Adelanto(e));
+    FijaFechaJuliana(e, planetas, FechaAJuliana(ArmaCadenaFecha(e)));
 }
 
 double RelojLocal(const Estado& e, double fechaHoraUniversal) {
     return fechaHoraUniversal + e.ZonaHoraria / 24.0 + Adelanto(e);
 }
 
-void TiempoActual(Estado& e, const TablaPlanetas& planetas) {
-    TiempoDesdeReloj(e, planetas, RelojLocal(e, plataforma::FechaHoraUniversal()));
+void JulianaAFecha(Estado& e, double jd) {
+    FechaCalendario f = JulianaAFecha(jd);
+    e.FecAno = f.Ano;
+    e.FecMes = f.Mes;
+    e.FecDia = f.Dia;
+    e.FecHora = f.Hora;
+    e.FecMinuto = f.Minuto;
+    e.FecFraccion = f.Fraccion;
+}
+
+std::string ArmaCadenaFecha(const Estado& e) {
+    return ArmaCadenaFecha(e.FecAno, e.FecMes, e.FecDia, e.FecHora, e.FecMinuto);
 }
 
 void TextoFechaHora(Estado& e, double jd) {
