@@ -153,8 +153,9 @@ struct Estado {
     // Filled on demand by the projection from a const state; what it holds
     // follows from the fields above, so it never changes what is drawn.
     mutable DerivadosRotacion Derivados;
-    // The precise model's Earth and rotation of the last instant computed.
-    InstantePreciso InstanteAlta;
+    // The precise model's Earth and rotation of the last instant computed,
+    // filled on demand like the rotations above.
+    mutable InstantePreciso InstanteAlta;
 };
 
 }  // namespace vedrano
