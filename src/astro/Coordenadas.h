@@ -3,11 +3,9 @@
 // pole of the system, z toward the origin of a, a increasing toward -x).
 #pragma once
 
-namespace vedrano {
+#include "astro/Vector3f.h"
 
-struct Vector3f {
-    float x = 0, y = 0, z = 0;
-};
+namespace vedrano {
 
 // ArcoTangente
 //   Given:   y, x  a point of the plane

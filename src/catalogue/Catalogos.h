@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "astro/Coordenadas.h"
+#include "astro/Vector3f.h"
 #include "catalogue/Registros.h"
 #include "catalogue/TablaPlanetas.h"
 

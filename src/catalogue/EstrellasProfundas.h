@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "astro/Coordenadas.h"
+#include "astro/Vector3f.h"
 
 namespace vedrano {
 

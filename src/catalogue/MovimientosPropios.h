@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "astro/Coordenadas.h"
+#include "astro/Vector3f.h"
 #include "catalogue/Catalogos.h"
 #include "app/base/InterfazMensajes.h"
 
