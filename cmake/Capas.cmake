@@ -62,9 +62,7 @@ vedrano_capa(vedrano_plataforma platform USA vedrano_base PRIVADO Qt6::Core)
 # clock nor Qt.
 vedrano_capa(vedrano_astro astro USA vedrano_base PkgConfig::ERFA)
 vedrano_capa(vedrano_catalogo catalogue USA vedrano_base vedrano_plataforma vedrano_astro)
-# The state record still carries the preferences record.
-vedrano_capa(vedrano_estado app/estado USA vedrano_base vedrano_astro vedrano_catalogo
-             PENDIENTE vedrano_config)
+vedrano_capa(vedrano_estado app/estado USA vedrano_base vedrano_astro vedrano_catalogo)
 vedrano_capa(vedrano_config config USA vedrano_base vedrano_plataforma vedrano_catalogo vedrano_estado)
 # The sky model: projection, then pointing.
 vedrano_capa(vedrano_proyeccion sky/proyeccion USA vedrano_base vedrano_astro vedrano_catalogo vedrano_estado)

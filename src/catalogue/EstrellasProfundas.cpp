@@ -75,11 +75,4 @@ bool EstrellasProfundas::Abre(const std::string& ruta, std::string& mensaje) {
     return true;
 }
 
-Vector3f DireccionProfunda(const ZonaProfunda& z, const EstrellaProfunda& s) {
-    const float e = s.Este * z.Paso, n = s.Norte * z.Paso;
-    const float k = 1.0f / std::sqrt(1.0f + e * e + n * n);
-    return {(z.Centro.x + e * z.Este.x + n * z.Norte.x) * k, (z.Centro.y + e * z.Este.y + n * z.Norte.y) * k,
-            (z.Centro.z + e * z.Este.z + n * z.Norte.z) * k};
-}
-
 }  // namespace vedrano

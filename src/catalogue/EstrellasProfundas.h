@@ -63,8 +63,14 @@ private:
     std::size_t cuenta_ = 0;
 };
 
-// The direction of a star of a zone, as a unit vector of the catalogue.
-Vector3f DireccionProfunda(const ZonaProfunda& z, const EstrellaProfunda& s);
+// The direction of a star of a zone, as a unit vector of the catalogue
+// (inline: the layer asks it of every star it visits).
+inline Vector3f DireccionProfunda(const ZonaProfunda& z, const EstrellaProfunda& s) {
+    const float e = s.Este * z.Paso, n = s.Norte * z.Paso;
+    const float k = 1.0f / std::sqrt(1.0f + e * e + n * n);
+    return {(z.Centro.x + e * z.Este.x + n * z.Norte.x) * k, (z.Centro.y + e * z.Este.y + n * z.Norte.y) * k,
+            (z.Centro.z + e * z.Este.z + n * z.Norte.z) * k};
+}
 
 // False when no star of zone `z` can lie within `campo` radians of the unit
 // vector `eje` (both in the catalogue's frame): the zone is passed over.

@@ -17,7 +17,7 @@
 #include "astro/Coordenadas.h"
 #include "astro/Cuerpos.h"
 #include "astro/PrecisionAlta.h"
-#include "config/Preferencias.h"
+#include "app/estado/Preferencias.h"
 
 namespace vedrano {
 
