@@ -66,7 +66,7 @@ vedrano_capa(vedrano_estado app/estado USA vedrano_base vedrano_astro vedrano_ca
 vedrano_capa(vedrano_config config USA vedrano_base vedrano_plataforma vedrano_catalogo vedrano_estado)
 # The sky model: projection, then pointing.
 vedrano_capa(vedrano_proyeccion sky/proyeccion USA vedrano_base vedrano_astro vedrano_catalogo vedrano_estado)
-vedrano_capa(vedrano_apunta sky/apunta USA vedrano_proyeccion PENDIENTE vedrano_config)
+vedrano_capa(vedrano_apunta sky/apunta USA vedrano_proyeccion)
 # The sky drawing: canvas, plotters, rendering pass, printed page.
 vedrano_capa(vedrano_dibujo sky USA vedrano_proyeccion vedrano_apunta vedrano_config
              vedrano_plataforma Qt6::Gui)

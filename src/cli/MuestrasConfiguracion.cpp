@@ -1,197 +1,23 @@
 #include "cli/MuestrasConfiguracion.h"
 
 #include <cmath>
-#include <cstring>
-#include <functional>
 #include <iomanip>
-#include <span>
-#include <sstream>
 #include <iostream>
+#include <memory>
 #include <ostream>
+#include <sstream>
 #include <vector>
 
-#include "app/base/Constantes.h"
 #include "app/base/ErrorEjecucion.h"
-#include "app/base/Texto1252.h"
-#include "app/estado/Astros.h"
-#include "app/estado/Rotaciones.h"
-#include "astro/Calendario.h"
-#include "astro/Coordenadas.h"
-#include "astro/Planetas.h"
-#include "astro/Precesion.h"
-#include "app/estado/Tiempo.h"
-#include "catalogue/ArchivoRegistros.h"
-#include "catalogue/Catalogos.h"
 #include "catalogue/TablaPlanetas.h"
+#include "cli/EscenaMuestra.h"
 #include "config/EscribeConfiguracion.h"
 
 namespace vedrano {
 
 namespace {
 
-struct Lugar {
-    std::string nombre;  // Windows-1252, padded to 15 characters, then "(XXX)"
-    double longitud = 0, latitud = 0;
-};
-
-// The places of the places file, through the catalogue's record reader.
-std::vector<Lugar> LeeLugares(const std::string& dirDatos) {
-    std::vector<Ciudad> ciudades(N_CIUDADES);
-    ArchivoRegistros f;
-    f.Abre(dirDatos + "VDRDATH.DAT", LARGO_CIUDAD);
-    f.Lee(1, std::span<Ciudad>(ciudades));
-    f.Cierra();
-    std::vector<Lugar> lugares;
-    for (const Ciudad& c : ciudades) lugares.push_back({c.Nombre.texto(), c.Longitud, c.Latitud});
-    return lugares;
-}
-
-// "Madrid         (ESP)" -> "Madrid (ESP)".
-std::string TextoLugar(const std::string& nombre) {
-    std::string n = nombre.substr(0, 15);
-    while (!n.empty() && n.back() == ' ') n.pop_back();
-    return n + " " + nombre.substr(15);
-}
-
-double Distancia(double lon1, double lat1, double lon2, double lat2) {
-    double c = std::sin(lat1) * std::sin(lat2) + std::cos(lat1) * std::cos(lat2) * std::cos(lon1 - lon2);
-    return std::acos(std::fmax(-1.0, std::fmin(1.0, c)));
-}
-
-double Angulo(const Vector3f& a, const Vector3f& b) {
-    double c = double{a.x} * b.x + double{a.y} * b.y + double{a.z} * b.z;
-    return std::acos(std::fmax(-1.0, std::fmin(1.0, c)));
-}
-
-double Grados(double radianes) { return radianes / GRADO; }
-
-// Where a sky direction stands for the observer: azimuth from north
-// through east and altitude, radians.
-struct Horizontal {
-    double azimut = 0, altura = 0;
-};
-
-class Escena {
-public:
-    Escena(const std::vector<Lugar>& lugares, const TablaPlanetas& planetas)
-        : lugares_(lugares), planetas_(planetas) {
-        // What every sample shares: the sky of the date, the horizon, the
-        // Sun, the Moon and the planets, and the daylight colour.
-        e.Precesion = true;
-        e.Capas.Horiz = 1;
-        e.Capas.LuzDi = 1;
-        e.NivelEstrellas = 5;
-        e.NivelConstelaciones = 4;  // every figure
-        e.IdConstelaciones = 2;     // Spanish names
-        e.PanelCursor = true;       // the coordinates under the mouse
-        e.Marcar = true;
-    }
-
-    void Lugar(int indice) {
-        const auto& l = lugares_.at(static_cast<std::size_t>(indice));
-        e.IndiceLugar = static_cast<int16_t>(indice);
-        e.Longitud = l.longitud;
-        e.Latitud = l.latitud;
-        e.TextoLugar = TextoLugar(l.nombre);
-    }
-
-    // A place not in the table: its own coordinates and text, with the
-    // nearest listed place selected in the places list.
-    void LugarPropio(const std::string& texto, double longitudOeste, double latitud) {
-        std::size_t cercano = 0;
-        for (std::size_t i = 1; i < lugares_.size(); ++i)
-            if (Distancia(longitudOeste, latitud, lugares_[i].longitud, lugares_[i].latitud) <
-                Distancia(longitudOeste, latitud, lugares_[cercano].longitud, lugares_[cercano].latitud))
-                cercano = i;
-        e.IndiceLugar = static_cast<int16_t>(cercano);
-        e.Longitud = longitudOeste;
-        e.Latitud = latitud;
-        e.TextoLugar = texto;
-    }
-
-    void Zona(float horas, bool verano) {
-        e.ZonaHoraria = horas;
-        e.HorarioVerano = verano;
-    }
-
-    // An instant in Universal Time.
-    void Fecha(int ano, int mes, int dia, int hora, int minuto) {
-        FijaJuliana(FechaAJuliana(ArmaCadenaFecha(ano, mes, dia, hora, minuto)));
-    }
-
-    void FijaJuliana(double jd) {
-        FijaFechaJuliana(e, planetas_, jd);
-    }
-
-    // The direction of a body (1..9 planets, 10 Sun, 11 Moon) at the
-    // state's instant, as the sky picture places it.
-    Vector3f Cuerpo(int indice) {
-        if (indice == 11) {
-            HallaLuna(e);
-        } else if (indice == 10) {
-            HallaSolAparente(e);
-        } else {
-            HallaPlaneta(e, planetas_, static_cast<int16_t>(indice));
-        }
-        const PosicionCuerpo& p = e.Planetas[static_cast<std::size_t>(indice)];
-        return AngulosAVector(p.AscRecta, p.Declinacion);
-    }
-
-    // A catalogue direction (right ascension in hours, declination in
-    // degrees, J2000) carried to the date as the picture carries it.
-    Vector3f Catalogo(double horas, double grados) {
-        Vector3f v = AngulosAVector(horas * 15 * GRADO, grados * GRADO);
-        AplicaPrecesion(e, v);
-        return v;
-    }
-
-    Horizontal Donde(const Vector3f& v) {
-        Vector3f h = EcuatorialAHorizontal(e, v);  // x west, y north, z zenith
-        Horizontal r;
-        r.azimut = std::atan2(-double{h.x}, double{h.y});
-        if (r.azimut < 0) r.azimut += 2 * PI;
-        r.altura = std::asin(std::fmax(-1.0, std::fmin(1.0, double{h.z})));
-        return r;
-    }
-
-    void Mira(const Vector3f& v, float zoom) {
-        Horizontal h = Donde(v);
-        Mira(h.azimut, h.altura, zoom);
-    }
-
-    void Mira(double azimut, double altura, float zoom) {
-        e.Direccion = azimut;
-        e.Elevacion = altura;
-        e.Zoom = zoom;
-    }
-
-    // The minute of [desde, hasta] (Julian days) where `valor` is least,
-    // left as the state's instant.
-    double Minimo(double desde, double hasta, const std::function<double()>& valor) {
-        double mejorJd = desde, mejor = INFINITY;
-        for (double jd = desde; jd <= hasta; jd += 1.0 / 1440) {
-            FijaJuliana(jd);
-            double v = valor();
-            if (v < mejor) {
-                mejor = v;
-                mejorJd = jd;
-            }
-        }
-        FijaJuliana(mejorJd);
-        return mejor;
-    }
-
-    std::string TextoInstante() {
-        TextoFechaHora(e, e.FechaJuliana);
-        return DesdeA1252(e.TextoFecha) + " " + DesdeA1252(e.TextoHora) + " TU";
-    }
-
-    Estado e;
-
-private:
-    const std::vector<::vedrano::Lugar>& lugares_;
-    const TablaPlanetas& planetas_;
-};
+using namespace muestras;
 
 // Place indices of the places file used below.
 constexpr int C_DE_MEXICO = 33, HELSINKI = 65, LOS_ANGELES = 88, MADRID = 91, INICIAL = 95;
@@ -440,13 +266,13 @@ const Muestra MUESTRAS[] = {
 }  // namespace
 
 int GeneraMuestras(const std::string& carpeta, const std::string& dirDatos, std::ostream& informe) {
-    std::vector<Lugar> lugares;
-    TablaPlanetas planetas{};
+    // Only the places and the planets are needed.
+    auto c = std::make_unique<Catalogos>();
     const char* fichero = "VDRDATH.DAT";
     try {
-        lugares = LeeLugares(dirDatos);
+        c->TablaCiudades = LeeLugares(dirDatos);
         fichero = "VDRDATF.DAT";
-        LeeTablaPlanetas(dirDatos + fichero, planetas);
+        LeeTablaPlanetas(dirDatos + fichero, c->TablaPlanetas);
     } catch (const ErrorEjecucion& error) {
         // Samples from missing or cut data would be wrong: none is written.
         std::cerr << "vedrano-cli configuracion: ERROR " << error.numero() << " al leer " << dirDatos << fichero
@@ -455,7 +281,7 @@ int GeneraMuestras(const std::string& carpeta, const std::string& dirDatos, std:
     }
     SinPreguntas ui(informe);
     for (const Muestra& m : MUESTRAS) {
-        Escena s(lugares, planetas);
+        Escena s(*c);
         std::string hechos = m.prepara(s);
         s.e.DirArchivo = carpeta.empty() || carpeta.back() == '/' ? carpeta : carpeta + "/";
         ResultadoConfiguracion r = EscribeConfiguracion(s.e, m.archivo, ui, false);

@@ -18,6 +18,7 @@
 #include "catalogue/LineasLista.h"
 #include "dialogs/piezas/FiltroLista.h"
 #include "dialogs/piezas/Mensajes.h"
+#include "app/acciones/Centrado.h"
 #include "app/acciones/ObjetivoBusqueda.h"
 #include "dialogs/piezas/PiezasForma.h"
 #include "dialogs/TextosBuscar.h"

@@ -17,11 +17,6 @@ namespace {
 
 bool Encendido(int16_t interruptor) { return interruptor != 0; }
 
-// Record 3 is the Earth's own orbit, from which the Sun is placed: it is
-// never computed or drawn as a planet seen from the Earth, which would
-// overwrite the Sun's base values.
-constexpr int16_t TIERRA = 3;
-
 }  // namespace
 
 void ActualizaPanel(Estado& e) {
@@ -46,56 +41,95 @@ void AjustaEscalaLienzo(Estado& e, Lienzo& l) {
 
 namespace {
 
-// The layers in their fixed order, after the background.
+// A planet (1..9) or the Sun (10): computed just before it is drawn.
+template <int16_t CUERPO>
+void Cuerpo(Contexto& x) {
+    HallaCuerpo(x.e, x.c.TablaPlanetas, CUERPO);
+    DibujaCuerpo(x, CUERPO);
+}
+
+void Luna(Contexto& x) {
+    HallaCuerpo(x.e, x.c.TablaPlanetas, 10);  // the phase needs the Sun even when it is not drawn
+    HallaCuerpo(x.e, x.c.TablaPlanetas, 11);
+    DibujaCuerpo(x, 11);
+}
+
+// The telescope's field around the centre of view: an angular radius r
+// lies sin r from the centre in this projection.
+void Telescopio(Contexto& x) {
+    x.l.FijaColor(ColorVB(0x4040FF));
+    x.l.Circulo(0, 0, std::sin(x.e.CampoTelescopio / 2));
+    x.l.FijaColor(ColorVB(0xFFFFFF));
+}
+
+template <int16_t CUERPO>
+bool PlanetaEncendido(const Estado& e) {
+    return Encendido(e.Capas.Plane[CUERPO - 1]);
+}
+
+// One layer of the pass: whether the state asks for it, and its plotter.
+struct Capa {
+    bool (*pedida)(const Estado&);
+    void (*dibuja)(Contexto&);
+};
+
+#define VEDRANO_INTERRUPTOR(campo) [](const Estado& e) { return Encendido(e.Capas.campo); }
+
+// The layers in their fixed order, after the background. Record 3 is the
+// Earth's own orbit, from which the Sun is placed: it is never computed or
+// drawn as a planet seen from the Earth, which would overwrite the Sun's
+// base values.
+const Capa CAPAS[] = {
+    {VEDRANO_INTERRUPTOR(ARDEC15), [](Contexto& x) { DibujaRejilla(x, 15); }},
+    {VEDRANO_INTERRUPTOR(ARDEC30), [](Contexto& x) { DibujaRejilla(x, 30); }},
+    {VEDRANO_INTERRUPTOR(LimCo), DibujaLimites},
+    {VEDRANO_INTERRUPTOR(Horiz), DibujaHorizonte},
+    {VEDRANO_INTERRUPTOR(Eclip), DibujaEcliptica},
+    {[](const Estado& e) { return e.NivelConstelaciones > 0; }, DibujaConstelaciones},
+    {[](const Estado& e) { return e.NivelEstrellas > 0; }, DibujaEstrellas},
+    {[](const Estado&) { return true; }, DibujaEstrellasProfundas},  // it reads the options itself
+    {VEDRANO_INTERRUPTOR(Messi), DibujaMessier},
+    {VEDRANO_INTERRUPTOR(Galax), DibujaGalaxias},
+    {VEDRANO_INTERRUPTOR(NebPl),
+     [](Contexto& x) {
+         DibujaNebulosas(x, x.c.TablaNebPlanetarias, x.c.TablasCuentas.NebPlanetarias, x.e.NivelNebPlanetarias);
+     }},
+    {VEDRANO_INTERRUPTOR(NebDi),
+     [](Contexto& x) { DibujaNebulosas(x, x.c.TablaNebDifusas, x.c.TablasCuentas.NebDifusas, x.e.NivelNebDifusas); }},
+    {VEDRANO_INTERRUPTOR(CumAb),
+     [](Contexto& x) {
+         DibujaCumulos(x, x.c.TablaCumAbiertos, x.c.TablasCuentas.CumAbiertos, x.e.NivelCumAbiertos, 0x8000, 0.5);
+     }},
+    {VEDRANO_INTERRUPTOR(CumGl),
+     [](Contexto& x) {
+         DibujaCumulos(x, x.c.TablaCumGlobulares, x.c.TablasCuentas.CumGlobulares, x.e.NivelCumGlobulares,
+                       0xC0C0C0, 1.4);
+     }},
+    {VEDRANO_INTERRUPTOR(Quasa), [](Contexto& x) { DibujaExoticos(x, x.c.TablaCuasares, false); }},
+    {VEDRANO_INTERRUPTOR(Pulsa), [](Contexto& x) { DibujaExoticos(x, x.c.TablaPulsares, false); }},
+    {VEDRANO_INTERRUPTOR(Aguje), [](Contexto& x) { DibujaExoticos(x, x.c.TablaAgujeros, true); }},
+    {VEDRANO_INTERRUPTOR(ViaLa), DibujaViaLactea},
+    {PlanetaEncendido<1>, Cuerpo<1>},
+    {PlanetaEncendido<2>, Cuerpo<2>},
+    {PlanetaEncendido<4>, Cuerpo<4>},
+    {PlanetaEncendido<5>, Cuerpo<5>},
+    {PlanetaEncendido<6>, Cuerpo<6>},
+    {PlanetaEncendido<7>, Cuerpo<7>},
+    {PlanetaEncendido<8>, Cuerpo<8>},
+    {PlanetaEncendido<9>, Cuerpo<9>},
+    {VEDRANO_INTERRUPTOR(Sol), Cuerpo<10>},
+    {VEDRANO_INTERRUPTOR(Luna), Luna},
+    {[](const Estado& e) { return e.Telescopio; }, Telescopio},
+};
+
+#undef VEDRANO_INTERRUPTOR
+
 void DibujaCapas(Contexto& x) {
-    Estado& e = x.e;
-    const Catalogos& c = x.c;
-    Lienzo& l = x.l;
-    const Interruptores& s = e.Capas;
-    l.FijaColor(ColorVB(0xFFFFFF));
-    l.FijaAnchoTrazo(1);
-    l.FijaEstiloTrazo(0);
-    if (Encendido(s.ARDEC15)) DibujaRejilla(x, 15);
-    if (Encendido(s.ARDEC30)) DibujaRejilla(x, 30);
-    if (Encendido(s.LimCo)) DibujaLimites(x);
-    if (Encendido(s.Horiz)) DibujaHorizonte(x);
-    if (Encendido(s.Eclip)) DibujaEcliptica(x);
-    if (e.NivelConstelaciones > 0) DibujaConstelaciones(x);
-    if (e.NivelEstrellas > 0) DibujaEstrellas(x);
-    DibujaEstrellasProfundas(x);
-    if (Encendido(s.Messi)) DibujaMessier(x);
-    if (Encendido(s.Galax)) DibujaGalaxias(x);
-    const Cuentas& t = c.TablasCuentas;
-    if (Encendido(s.NebPl)) DibujaNebulosas(x, c.TablaNebPlanetarias, t.NebPlanetarias, e.NivelNebPlanetarias);
-    if (Encendido(s.NebDi)) DibujaNebulosas(x, c.TablaNebDifusas, t.NebDifusas, e.NivelNebDifusas);
-    if (Encendido(s.CumAb)) DibujaCumulos(x, c.TablaCumAbiertos, t.CumAbiertos, e.NivelCumAbiertos, 0x8000, 0.5);
-    if (Encendido(s.CumGl))
-        DibujaCumulos(x, c.TablaCumGlobulares, t.CumGlobulares, e.NivelCumGlobulares, 0xC0C0C0, 1.4);
-    if (Encendido(s.Quasa)) DibujaExoticos(x, c.TablaCuasares, false);
-    if (Encendido(s.Pulsa)) DibujaExoticos(x, c.TablaPulsares, false);
-    if (Encendido(s.Aguje)) DibujaExoticos(x, c.TablaAgujeros, true);
-    if (Encendido(s.ViaLa)) DibujaViaLactea(x);
-    for (int16_t i = 1; i <= 9; ++i) {
-        if (i == TIERRA || !Encendido(s.Plane[static_cast<std::size_t>(i - 1)])) continue;
-        HallaCuerpo(e, c.TablaPlanetas, i);
-        DibujaCuerpo(x, i);
-    }
-    if (Encendido(s.Sol)) {
-        HallaCuerpo(e, c.TablaPlanetas, 10);
-        DibujaCuerpo(x, 10);
-    }
-    if (Encendido(s.Luna)) {
-        HallaCuerpo(e, c.TablaPlanetas, 10);  // the phase needs the Sun even when it is not drawn
-        HallaCuerpo(e, c.TablaPlanetas, 11);
-        DibujaCuerpo(x, 11);
-    }
-    if (e.Telescopio) {
-        // The telescope's field around the centre of view: an angular
-        // radius r lies sin r from the centre in this projection.
-        l.FijaColor(ColorVB(0x4040FF));
-        l.Circulo(0, 0, std::sin(e.CampoTelescopio / 2));
-        l.FijaColor(ColorVB(0xFFFFFF));
-    }
+    x.l.FijaColor(ColorVB(0xFFFFFF));
+    x.l.FijaAnchoTrazo(1);
+    x.l.FijaEstiloTrazo(0);
+    for (const Capa& capa : CAPAS)
+        if (capa.pedida(x.e)) capa.dibuja(x);
 }
 
 }  // namespace

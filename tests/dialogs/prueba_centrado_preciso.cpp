@@ -10,6 +10,7 @@
 #include "app/estado/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
 #include "catalogue/MovimientosPropios.h"
+#include "app/acciones/Centrado.h"
 #include "app/acciones/ObjetivoBusqueda.h"
 #include "sky/apunta/Apunta.h"
 #include "sky/proyeccion/Proyeccion.h"

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "app/acciones/Centrado.h"
 #include "app/base/Texto1252.h"
 #include "astro/Coordenadas.h"
 #include "app/estado/Tiempo.h"

@@ -2,8 +2,10 @@
 
 #include <cctype>
 #include <cmath>
+#include <span>
 
 #include "app/base/Constantes.h"
+#include "catalogue/ArchivoRegistros.h"
 #include "app/base/TextosAngulo.h"
 #include "app/estado/Tiempo.h"
 
@@ -56,13 +58,26 @@ bool EligeLugar(Estado& e, const Catalogos& c, int i, bool restaurando) {
     return true;
 }
 
-void FijaPuntoPropio(Estado& e, const Catalogos& c, double longitudOeste, double latitud) {
+std::vector<Ciudad> LeeLugares(const std::string& dirDatos) {
+    std::vector<Ciudad> lugares(N_CIUDADES);
+    ArchivoRegistros f;
+    f.Abre(dirDatos + "VDRDATH.DAT", LARGO_CIUDAD);
+    f.Lee(1, std::span<Ciudad>(lugares));
+    f.Cierra();
+    return lugares;
+}
+
+int LugarCercano(const std::vector<Ciudad>& lugares, double longitudOeste, double latitud) {
     std::size_t cercano = 0;
-    for (std::size_t i = 1; i < c.TablaCiudades.size(); ++i)
-        if (Distancia(longitudOeste, latitud, c.TablaCiudades[i].Longitud, c.TablaCiudades[i].Latitud) <
-            Distancia(longitudOeste, latitud, c.TablaCiudades[cercano].Longitud, c.TablaCiudades[cercano].Latitud))
+    for (std::size_t i = 1; i < lugares.size(); ++i)
+        if (Distancia(longitudOeste, latitud, lugares[i].Longitud, lugares[i].Latitud) <
+            Distancia(longitudOeste, latitud, lugares[cercano].Longitud, lugares[cercano].Latitud))
             cercano = i;
-    e.IndiceLugar = static_cast<int16_t>(cercano);
+    return static_cast<int>(cercano);
+}
+
+void FijaPuntoPropio(Estado& e, const Catalogos& c, double longitudOeste, double latitud) {
+    e.IndiceLugar = static_cast<int16_t>(LugarCercano(c.TablaCiudades, longitudOeste, latitud));
     e.Longitud = longitudOeste;
     e.Latitud = latitud;
     e.TextoLugar = "Lugar propio";

@@ -2,6 +2,7 @@
 // with the time zone it proposes, or a point of the map.
 #pragma once
 #include <string>
+#include <vector>
 
 #include "app/estado/Estado.h"
 #include "catalogue/Catalogos.h"
@@ -22,6 +23,15 @@ float ZonaPropuesta(Estado& e, const std::string& nombreCp1252);
 // A point of the map that is no listed place: its coordinates, the zone
 // its longitude proposes, and the nearest place kept as the place index.
 void FijaPuntoPropio(Estado& e, const Catalogos& c, double longitudOeste, double latitud);
+
+// The places of the places file (VDRDATH.DAT in dirDatos), read as the
+// catalogue loader reads them; a missing or cut file raises its run-time
+// error (53, 62).
+std::vector<Ciudad> LeeLugares(const std::string& dirDatos);
+
+// The index of the listed place nearest to a point (by the angle between
+// them; the first of equals), 0 for an empty list.
+int LugarCercano(const std::vector<Ciudad>& lugares, double longitudOeste, double latitud);
 
 // "Madrid         (ESP)" -> "Madrid (ESP)".
 std::string TextoLugarCiudad(const std::string& nombreCp1252);

@@ -4,11 +4,9 @@
 #include <cmath>
 
 #include "app/base/Constantes.h"
-#include "app/base/Texto1252.h"
 #include "app/base/TextosAngulo.h"
 #include "app/estado/Tiempo.h"
 #include "astro/PrecisionAlta.h"
-#include "config/EscribeConfiguracion.h"
 #include "sky/proyeccion/Proyeccion.h"
 
 namespace vedrano {
@@ -28,17 +26,13 @@ TextosCursor InformeCursor(Estado& e, float X, float Y) {
             "Altitud = " + TextoSexagesimal(e.CursorAltitud), "Azimut = " + TextoSexagesimal(e.CursorAzimut)};
 }
 
-bool CentraObjeto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m) {
+bool ObjetivoVisible(const Estado& e) {
     const double phi = e.Latitud, delta = e.ObjetivoDEC;
-    double bajo = phi - 1.5707963268, alto = phi + 1.5707963268;
-    if (!(bajo <= delta && delta <= alto)) {
-        m.Mensaje(A1252("Ese punto  se  encuentra bajo  el  horizonte  y  no  es  visible desde la Latitud actual"),
-                  "Buscar Objetos", 1, 1);
-        return false;
-    }
-    e.CentrandoObjeto = true;
-    EscribeConfiguracion(e, "Temporal.wrk", m, true);
+    return phi - MEDIO_PI <= delta && delta <= phi + MEDIO_PI;
+}
 
+void LlevaObjetivoAlMeridiano(Estado& e, const TablaPlanetas& planetas) {
+    const double phi = e.Latitud, delta = e.ObjetivoDEC;
     // The step is in solar days, so the target lands on the meridian only
     // approximately; the one-shot correction makes up part of the difference.
     // The precise model aims where it draws: a step in sidereal days.
@@ -53,23 +47,22 @@ bool CentraObjeto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m)
     }
     FijaFechaJuliana(e, planetas, jd);
 
-    double elevacion = delta - phi + 1.5707963268;
-    if (elevacion > 1.5707963268) elevacion = 3.1415926536 - elevacion;
+    double elevacion = delta - phi + MEDIO_PI;
+    if (elevacion > MEDIO_PI) elevacion = PI - elevacion;
     // The precise model draws the target lifted by the atmosphere.
-    if (e.Pref.PrecisionAlta) elevacion = std::min(1.5707963268, elevacion + Refraccion(elevacion));
-    FijaVista(e, delta < phi ? 3.1415926536 : 0.0, elevacion);
+    if (e.Pref.PrecisionAlta) elevacion = std::min(MEDIO_PI, elevacion + Refraccion(elevacion));
+    FijaVista(e, delta < phi ? PI : 0.0, elevacion);
     e.CentrandoObjeto = false;
     e.Centrado = true;
-    return true;
 }
 
-bool CentraPunto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m, float X, float Y) {
+bool ObjetivoEnPunto(Estado& e, float X, float Y) {
     double ar = 0, dec = 0;
     PuntoACielo(e, X, Y, ar, dec, e.CursorAltitud, e.CursorAzimut);
     if (ar == 99 && dec == 99) return false;
     e.ObjetivoAR = ar;
     e.ObjetivoDEC = dec;
-    return CentraObjeto(e, planetas, m);
+    return true;
 }
 
 bool HorizonteEn(const Estado& e, float X, float Y, PuntoHorizonte& h) {

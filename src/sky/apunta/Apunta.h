@@ -1,10 +1,10 @@
-// Pointing at the sky: what lies under the cursor, and centring the view on
-// a target by moving the time until it stands on the meridian.
+// Pointing at the sky: what lies under the cursor, and the arithmetic of
+// centring the view on a target by moving the time until it stands on the
+// meridian.
 #pragma once
 #include <string>
 
 #include "app/estado/Estado.h"
-#include "app/base/InterfazMensajes.h"
 #include "catalogue/TablaPlanetas.h"
 
 namespace vedrano {
@@ -18,16 +18,18 @@ struct TextosCursor {
 };
 TextosCursor InformeCursor(Estado& e, float X, float Y);
 
-// Centres the view on ObjetivoAR, ObjetivoDEC: refuses with its message a
-// target that never rises at the state's latitude; otherwise saves the
-// situation to "Temporal.wrk", moves the time so that the target reaches
-// the meridian, aims the view at its culmination and turns the azimuth.
-// Returns true when the view moved; the caller redraws.
-bool CentraObjeto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m);
+// Whether the target (ObjetivoAR, ObjetivoDEC) ever rises at the state's
+// latitude (it may just graze the horizon).
+bool ObjetivoVisible(const Estado& e);
 
-// The centring of a left click: the target under the screen point, when
-// the point is on the sphere.
-bool CentraPunto(Estado& e, const TablaPlanetas& planetas, InterfazMensajes& m, float X, float Y);
+// The arithmetic of centring a visible target: moves the time so that it
+// reaches the meridian, aims the view at its culmination and turns the
+// azimuth. Saving the situation first is the caller's (app/acciones).
+void LlevaObjetivoAlMeridiano(Estado& e, const TablaPlanetas& planetas);
+
+// The target under a screen point (user scale), left in ObjetivoAR and
+// ObjetivoDEC; false, leaving them, off the sphere.
+bool ObjetivoEnPunto(Estado& e, float X, float Y);
 
 // A place on the horizon sphere: altitude and azimuth, radians.
 struct PuntoHorizonte {

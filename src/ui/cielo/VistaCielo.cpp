@@ -8,6 +8,7 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include "app/acciones/Centrado.h"
 #include "app/base/Cursores.h"
 #include "app/base/ErrorEjecucion.h"
 #include "app/base/Texto1252.h"
