@@ -38,8 +38,7 @@ TEST(MovimientosPropios, ElModoPrecisoCentraDondeDibuja) {
     e.DirArchivo = (fs::temp_directory_path() / "vedrano_movimientos").string() + "/";
     fs::create_directories(e.DirArchivo);
     e.Pref.PrecisionAlta = true;
-    e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(-1500, 3, 1, 20, 0));
-    ActualizaTiempo(e, c.TablaPlanetas);
+    FijaFechaJuliana(e, c.TablaPlanetas, FechaAJuliana(ArmaCadenaFecha(-1500, 3, 1, 20, 0)));
     for (int linea : {0, 3, 10}) {
         FijaObjetivo(e, c, 3, linea);
         ASSERT_TRUE(CentraObjeto(e, c.TablaPlanetas, m));

@@ -37,8 +37,7 @@ Estado Base() {
     Estado e;
     e.DirArchivo = (std::filesystem::temp_directory_path() / "vedrano_apunta").string() + "/";
     std::filesystem::create_directories(e.DirArchivo);
-    e.FechaJuliana = 2460300.3;
-    ActualizaTiempo(e, Planetas());
+    FijaFechaJuliana(e, Planetas(), 2460300.3);
     return e;
 }
 

@@ -51,8 +51,7 @@ struct Capa : ::testing::Test {
         e.IdentificarObjetos = false;
         e.NivelEstrellas = 7;
         e.Precesion = true;
-        e.FechaJuliana = 2460880.528;
-        ActualizaTiempo(e, c.TablaPlanetas);
+        FijaFechaJuliana(e, c.TablaPlanetas, 2460880.528);
         Vector3f h = EcuatorialAHorizontal(e, AngulosAVector(310.35 * GRADO, 45.28 * GRADO));
         e.Direccion = std::fmod(std::atan2(-double{h.x}, double{h.y}) + 2 * M_PI, 2 * M_PI);
         e.Elevacion = std::asin(double{h.z});

@@ -65,10 +65,9 @@ double Separacion(double a1, double d1, double a2, double d2) { return eraSeps(a
 Estado MirandoA(const Catalogos& c, std::size_t i, double jd, float zoom) {
     Estado e;
     e.Pref.PrecisionAlta = true;
-    e.FechaJuliana = jd;
     e.Latitud = 0.7;
     e.Longitud = 0.06;
-    ActualizaTiempo(e, c.TablaPlanetas);
+    FijaFechaJuliana(e, c.TablaPlanetas, jd);
     Vector3f v = DireccionesEnFecha(c.MovEstrellas, AnosMovimientoPropio(e))(i, c.TablaEstrellas[i].Direccion);
     AplicaPrecesion(e, v);
     Vector3f h = EcuatorialAHorizontal(e, v);

@@ -1,7 +1,14 @@
 // The application state: one record of the instant, the place, the view,
 // the levels, pointing and interface flags. The program owns one instance
 // and hands it by reference; tests and tools make their own. A fresh record
-// holds the program's defaults (those used when no configuration is read).
+// holds the program's defaults (those used when no configuration is read;
+// the configuration reader takes them from here).
+//
+// The derived values follow the fields they come from through the setters
+// beside the state: the instant is set with FijaFechaJuliana (the time
+// refresh), a change of place or zone is followed by ActualizaLugar (the
+// sidereal time), the view is set with FijaVista (the turned azimuth); the
+// rendering pass refreshes all of them once more before it draws.
 #pragma once
 #include <array>
 #include <cstdint>
