@@ -11,6 +11,7 @@
 
 #include <unistd.h>
 
+#include "../sky/CapasApagadas.h"
 #include "app/base/ErrorEjecucion.h"
 #include "astro/Coordenadas.h"
 #include "catalogue/CargaCatalogos.h"
@@ -96,11 +97,8 @@ TEST_F(DatosDanados, CuentasFueraDeLasTablasSeAvisanYSeAjustan) {
 TEST_F(DatosDanados, UnaMagnitudAbsurdaDibujaUnDiscoSinAgotarLaMemoria) {
     Catalogos& cat = *c;
     Estado e;
-    e.Capas = Interruptores{};
-    e.Capas.Sol = e.Capas.Luna = e.Capas.Horiz = 0;
-    e.Capas.Plane.fill(0);
-    e.NivelConstelaciones = 0;
-    e.IdEstrellas = 0;
+    ApagaCapas(e);
+    e.NivelEstrellas = 1;
     e.Zoom = 15;
     Lienzo l(200, 150);
     ActualizaCielo(e, cat, l);  // sets the scale and the sky's rotation

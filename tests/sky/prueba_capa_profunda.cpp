@@ -9,6 +9,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "CapasApagadas.h"
 #include "app/base/Constantes.h"
 #include "app/estado/Rotaciones.h"
 #include "astro/Coordenadas.h"
@@ -44,11 +45,7 @@ struct Capa : ::testing::Test {
     // The stars alone, a summer night at Malaga, looking at Deneb's field.
     void SetUp() override {
         ASSERT_TRUE(abierto);
-        e.Capas = Interruptores{};
-        e.Capas.Sol = e.Capas.Luna = e.Capas.Horiz = 0;
-        e.Capas.Plane.fill(0);
-        e.NivelConstelaciones = e.IdEstrellas = 0;
-        e.IdentificarObjetos = false;
+        ApagaCapas(e);
         e.NivelEstrellas = 7;
         e.Precesion = true;
         FijaFechaJuliana(e, c.TablaPlanetas, 2460880.528);

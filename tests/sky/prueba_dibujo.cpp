@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <cmath>
 
+#include "CapasApagadas.h"
 #include "app/estado/Astros.h"
 #include "app/estado/Rotaciones.h"
 #include "astro/Calendario.h"
@@ -58,14 +59,7 @@ const auto* entorno = ::testing::AddGlobalTestEnvironment(new EntornoQt);
 // A state with every layer off and both levels 0.
 Estado Apagado() {
     Estado e;
-    e.Capas = Interruptores{};
-    e.Capas.Sol = e.Capas.Luna = 0;
-    e.Capas.Plane.fill(0);
-    e.Capas.Horiz = 0;
-    e.NivelEstrellas = 0;
-    e.NivelConstelaciones = 0;
-    e.IdEstrellas = 0;
-    e.IdentificarObjetos = false;
+    ApagaCapas(e);
     return e;
 }
 

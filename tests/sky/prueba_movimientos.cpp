@@ -12,6 +12,7 @@
 #include <fstream>
 #include <memory>
 
+#include "CapasApagadas.h"
 #include "astro/Calendario.h"
 #include "astro/Precesion.h"
 #include "astro/PrecisionAlta.h"
@@ -151,12 +152,8 @@ TEST(MovimientosPropios, ElModoPrecisoDibujaYSenalaLaEstrellaMovida) {
     Estado e = MirandoA(c, i, jd, 4);
     Vector3f movida = AngulosAVector(212.33450 * ERFA_DD2R, 16.40080 * ERFA_DD2R);
     Estado dibujo = e;
-    dibujo.Capas = Interruptores{};
-    dibujo.Capas.Sol = dibujo.Capas.Luna = dibujo.Capas.Horiz = 0;
-    dibujo.Capas.Plane.fill(0);
-    dibujo.NivelConstelaciones = 0;
+    ApagaCapas(dibujo);
     dibujo.NivelEstrellas = 1;
-    dibujo.IdEstrellas = 0;
     Lienzo l(800, 600);
     ActualizaCielo(dibujo, c, l);
     auto luz = [&](const Vector3f& v) {
