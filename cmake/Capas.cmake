@@ -87,13 +87,13 @@ file(GLOB ICONOS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/paquete/iconos/*.png)
 qt_add_resources(vedrano_plataforma_qt "iconos" PREFIX "/icono" BASE ${PROJECT_SOURCE_DIR}/paquete/iconos
                  FILES ${ICONOS})
 # The widgets: drawn controls, shared form pieces, one entry per form, the
-# main window. The controls still read the state record.
+# main window. The controls know only their own context (ui/controles/Contexto.h).
 vedrano_capa(vedrano_controles ui/controles QT USA vedrano_base vedrano_plataforma
-             vedrano_plataforma_qt PENDIENTE vedrano_estado)
+             vedrano_plataforma_qt)
 # What the main window hands a form and how a form is shown: the port
 # through which the window opens forms without knowing them.
 vedrano_capa(vedrano_formas ui/formas USA vedrano_base vedrano_estado vedrano_catalogo
-             vedrano_plataforma_qt Qt6::Widgets)
+             vedrano_controles vedrano_plataforma_qt Qt6::Widgets)
 vedrano_capa(vedrano_piezas dialogs/piezas QT USA vedrano_controles vedrano_acciones vedrano_dibujo
              vedrano_plataforma_qt vedrano_formas)
 vedrano_capa(vedrano_dialogos dialogs QT USA vedrano_piezas Qt6::PrintSupport)

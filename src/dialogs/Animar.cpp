@@ -50,7 +50,7 @@ Animar::Animar(ContextoDialogo& ctx)
         auto* columna = new QVBoxLayout;
         columna->setSpacing(2);
         for (int u = desde[c]; u <= hasta[c]; ++u) {
-            auto* opcion = new Casilla(e, NOMBRES_UNIDADES[u - 1]);
+            auto* opcion = new Casilla(c_.controles, NOMBRES_UNIDADES[u - 1]);
             opcion->setMarcada(u == e.PasoUnidad);
             unidades_[static_cast<std::size_t>(u - 1)] = opcion;
             columna->addWidget(opcion);
@@ -65,7 +65,7 @@ Animar::Animar(ContextoDialogo& ctx)
 
     auto* fila = new QHBoxLayout;
     fila->setSpacing(10);
-    cantidad_ = new Spin(e, 36);
+    cantidad_ = new Spin(c_.controles, 36);
     cantidad_->setFixedSize(cantidad_->sizeHint());
     cantidad_->setValor(e.PasoCantidad);
     // A typed count is read as the classic Val reads it (letters and an
@@ -79,14 +79,14 @@ Animar::Animar(ContextoDialogo& ctx)
         est.Cambiado = true;
     });
     fila->addWidget(cantidad_);
-    tiempoReal_ = new Interruptor(e, 14);
+    tiempoReal_ = new Interruptor(c_.controles, 14);
     tiempoReal_->setFixedSize(tiempoReal_->sizeHint());
     tiempoReal_->setEncendido(e.TiempoReal);
     connect(tiempoReal_, &Interruptor::cambiado, this, [this](bool si) {
         Estado& est = c_.e;
-        Suena(est, 0, 6);
+        Suena(c_.controles, 0, 6);
         est.TiempoReal = si;
-        if (si) est.ContadorTiempoReal = 0;
+        if (si) c_.ventana.ContadorTiempoReal = 0;
         est.Cambiado = true;
     });
     fila->addWidget(tiempoReal_);
@@ -117,7 +117,7 @@ void Animar::done(int r) {
         } else if (c_.ParaTiempoReal) {
             c_.ParaTiempoReal();
         }
-        Espera(e, 150);
+        Espera(c_.controles, 150);
     }
     MarcoOpciones::done(r);
 }

@@ -60,7 +60,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
 
     titulo_ = new Relieve(DesdeUtf8(TITULO_INDICE), this);
     titulo_->installEventFilter(this);
-    volver_ = new controles::Pulsador(ctx_.e, DesdeUtf8(TITULO_INDICE), this);
+    volver_ = new controles::Pulsador(ctx_.controles, DesdeUtf8(TITULO_INDICE), this);
     volver_->setToolTip(VOLVER);
     connect(volver_, &controles::Pulsador::accionado, this, [this] { muestraIndice(); });
     cabecera_ = new QLabel(this);
@@ -129,11 +129,11 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
             FiltraLista(listaVisible(), t);
     });
 
-    buscar_ = new BotonDialogo(ctx_.e, BotonDialogo::Tipo::Aceptar, this);
+    buscar_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Aceptar, this);
     buscar_->setToolTip(BUSCAR);
-    ayuda_ = new BotonDialogo(ctx_.e, BotonDialogo::Tipo::Ayuda, this);
+    ayuda_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Ayuda, this);
     ayuda_->setToolTip(QStringLiteral(" Ayuda sobre Buscar objetos "));
-    salir_ = new BotonDialogo(ctx_.e, BotonDialogo::Tipo::Salir, this);
+    salir_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Salir, this);
     salir_->setToolTip(QStringLiteral(" Salir de Buscar objetos "));
     connect(buscar_, &BotonDialogo::pulsado, this, [this] { busca(); });
     connect(ayuda_, &BotonDialogo::pulsado, this, [this] {
@@ -316,22 +316,22 @@ void Buscar::busca() {
     QListWidgetItem* item = l->currentItem();
     const int linea = item && item->isSelected() && !item->isHidden() ? l->row(item) : -1;
     Estado& e = ctx_.e;
-    controles::FijaCursor(e, this, cursor::Espera);  // while the target is computed
+    controles::FijaCursor(ctx_.controles, this, cursor::Espera);  // while the target is computed
     try {
         FijaObjetivo(e, ctx_.c, categoria_, linea);
     } catch (const ErrorEjecucion& err) {
-        controles::FijaCursor(e, this, cursor::Normal);
-        MuestraMensaje(e, this, A1252("ERROR BUS" + std::to_string(err.numero()) + ": línea fuera de la lista"),
+        controles::FijaCursor(ctx_.controles, this, cursor::Normal);
+        MuestraMensaje(e, ctx_.controles, this, A1252("ERROR BUS" + std::to_string(err.numero()) + ": línea fuera de la lista"),
                        "Buscar Objetos", 1, 1);
         return;
     }
     if (e.ObjetivoAR == 0.0 && e.ObjetivoDEC == 0.0) {
-        controles::FijaCursor(e, this, cursor::Normal);
+        controles::FijaCursor(ctx_.controles, this, cursor::Normal);
         return;
     }
     e.Centrado = false;
     CentraObjeto(e, ctx_.c.TablaPlanetas, ctx_.mensajes);
-    controles::FijaCursor(e, this, cursor::Normal);
+    controles::FijaCursor(ctx_.controles, this, cursor::Normal);
     if (e.Centrado) {
         e.Cambiado = true;
         done(QDialog::Accepted);
@@ -349,7 +349,7 @@ void Buscar::paintEvent(QPaintEvent*) { PintaFondoForma(this); }
 void Buscar::keyPressEvent(QKeyEvent* ev) {
     switch (ev->key()) {
         case Qt::Key_Escape:
-            controles::Suena(ctx_.e, 1, 9);
+            controles::Suena(ctx_.controles, 1, 9);
             sale();
             return;
         case Qt::Key_Return:
@@ -391,8 +391,8 @@ bool Buscar::eventFilter(QObject* objeto, QEvent* ev) {
         if (ev->type() == QEvent::MouseButtonRelease && categoria_ >= 0) muestraIndice();
         return QDialog::eventFilter(objeto, ev);
     }
-    if (ev->type() == QEvent::MouseMove && ctx_.e.CursorActual != cursor::ManoIndice)
-        controles::FijaCursor(ctx_.e, static_cast<QWidget*>(objeto), cursor::ManoIndice);
+    if (ev->type() == QEvent::MouseMove && ctx_.controles.CursorActual != cursor::ManoIndice)
+        controles::FijaCursor(ctx_.controles, static_cast<QWidget*>(objeto), cursor::ManoIndice);
     return QDialog::eventFilter(objeto, ev);
 }
 

@@ -54,10 +54,10 @@ CargaGuar::CargaGuar(ContextoDialogo& ctx)
     : MarcoOpciones(ctx, "Mantenimiento de configuraciones", "Configuraciones", 1040),
       lista_(new QListWidget),
       nombre_(new QLineEdit),
-      cargar_(new Pulsador(ctx.e, control::Cargar)),
-      guardar_(new Pulsador(ctx.e, control::Guardar)),
-      borrar_(new Pulsador(ctx.e, control::Borrar)),
-      animacion_(new Interruptor(ctx.e, control::IncluirAnimacion)) {
+      cargar_(new Pulsador(ctx.controles, control::Cargar)),
+      guardar_(new Pulsador(ctx.controles, control::Guardar)),
+      borrar_(new Pulsador(ctx.controles, control::Borrar)),
+      animacion_(new Interruptor(ctx.controles, control::IncluirAnimacion)) {
     Estado& e = ctx.e;
     lista_->setAccessibleName(QStringLiteral("Configuraciones"));
     nombre_->setAccessibleName(QStringLiteral("Nombre de la configuración"));

@@ -76,7 +76,7 @@ Hora::Hora(ContextoDialogo& ctx)
     connect(juliano_, &QLineEdit::editingFinished, this, &Hora::validaJuliano);
     filaDatos->addWidget(juliano_);
     filaDatos->addStretch(1);
-    zona_ = new Spin(e, 31);
+    zona_ = new Spin(c_.controles, 31);
     zona_->setFixedSize(zona_->sizeHint());
     zona_->setValor(e.ZonaHoraria);
     // While the keys repeat the local fields follow; the value stays once stored.
@@ -90,7 +90,7 @@ Hora::Hora(ContextoDialogo& ctx)
     connect(zona_, &Spin::paso, this, cambiaZona);
     zona_->setAlmacen(cambiaZona);
     filaDatos->addWidget(zona_);
-    verano_ = new Interruptor(e, 11);
+    verano_ = new Interruptor(c_.controles, 11);
     verano_->setFixedSize(verano_->sizeHint());
     verano_->setEncendido(e.HorarioVerano);
     connect(verano_, &Interruptor::cambiado, this, [this](bool si) {
@@ -107,7 +107,7 @@ Hora::Hora(ContextoDialogo& ctx)
     auto* filaPulsadores = new QHBoxLayout;
     filaPulsadores->setSpacing(10);
     for (int i = 0; i < 3; ++i) {
-        auto* p = new Pulsador(e, 41 + i);
+        auto* p = new Pulsador(c_.controles, 41 + i);
         p->setFixedSize(i == 0 ? 150 : 110, p->sizeHint().height());
         connect(p, &Pulsador::accionado, this, [this, i] { pulsa(41 + i); });
         pulsadores_[i] = p;
@@ -121,23 +121,23 @@ Hora::Hora(ContextoDialogo& ctx)
     auto* filaTeclas = new QHBoxLayout;
     filaTeclas->setSpacing(4);
     for (int i = 0; i < 7; ++i) {
-        auto* t = new TeclaAD(e, i, NOMBRES_TECLAS[i]);
+        auto* t = new TeclaAD(c_.controles, i, NOMBRES_TECLAS[i]);
         t->setFixedSize(46, t->sizeHint().height() + 5);  // room between the label and the frame
         connect(t, &TeclaAD::pulsada, this, [this, i](int) {
             validaPendientes();
-            c_.e.RedibujoPermitido = false;
+            c_.ventana.RedibujoPermitido = false;
             c_.e.TeclaPaso = static_cast<int16_t>(i + 1);
         });
         t->setPaso([this, i](int sentido) { paso(i, sentido); });
-        connect(t, &TeclaAD::soltada, this, [this] { c_.e.RedibujoPermitido = true; });
+        connect(t, &TeclaAD::soltada, this, [this] { c_.ventana.RedibujoPermitido = true; });
         teclas_[i] = t;
         filaTeclas->addWidget(t);
     }
     filaTeclas->addSpacing(10);
     auto* columnaTipos = new QVBoxLayout;
     columnaTipos->setSpacing(2);
-    tipos_[0] = new Casilla(e, "Tiempos Solares");
-    tipos_[1] = new Casilla(e, "Tiempos Siderales");
+    tipos_[0] = new Casilla(c_.controles, "Tiempos Solares");
+    tipos_[1] = new Casilla(c_.controles, "Tiempos Siderales");
     tipos_[0]->setMarcada(e.TipoPaso == 1);
     tipos_[1]->setMarcada(e.TipoPaso == 0);
     Casilla::HazOpciones({tipos_[0], tipos_[1]}, [this](int i) { c_.e.TipoPaso = static_cast<int16_t>(i == 0 ? 1 : 0); });

@@ -35,24 +35,24 @@ Impresor::Impresor(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre
     setWindowTitle(QStringLiteral("Imprimir"));
     setFont(controles::FuenteControles());
 
-    ancho_ = new Spin(e, control::AnchoImpresion, this);
+    ancho_ = new Spin(ctx_.controles, control::AnchoImpresion, this);
     ancho_->setValor(e.AnchoMm);
     ancho_->setAlmacen([&e](float v) { e.AnchoMm = static_cast<int16_t>(v); });
-    alto_ = new Spin(e, control::AltoImpresion, this);
+    alto_ = new Spin(ctx_.controles, control::AltoImpresion, this);
     alto_->setValor(e.AltoMm);
     alto_->setAlmacen([&e](float v) { e.AltoMm = static_cast<int16_t>(v); });
-    enPantalla_ = new Interruptor(e, control::ImagenEnPantalla, this);
+    enPantalla_ = new Interruptor(ctx_.controles, control::ImagenEnPantalla, this);
     enPantalla_->setEncendido(e.ImagenEnPantalla);
     connect(enPantalla_, &Interruptor::cambiado, this, [&e](bool si) { e.ImagenEnPantalla = si; });
-    localizacion_ = new Interruptor(e, control::IncluirLocalizacion, this);
+    localizacion_ = new Interruptor(ctx_.controles, control::IncluirLocalizacion, this);
     localizacion_->setEncendido(e.DatosLocalizacion);
     connect(localizacion_, &Interruptor::cambiado, this, [&e](bool si) { e.DatosLocalizacion = si; });
 
-    imprimir_ = new BotonDialogo(e, BotonDialogo::Tipo::Aceptar, this);
+    imprimir_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Aceptar, this);
     imprimir_->setToolTip(QStringLiteral(" Imprimir el cielo "));
-    ayuda_ = new BotonDialogo(e, BotonDialogo::Tipo::Ayuda, this);
+    ayuda_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Ayuda, this);
     ayuda_->setToolTip(QStringLiteral(" Ayuda sobre Imprimir "));
-    salir_ = new BotonDialogo(e, BotonDialogo::Tipo::Salir, this);
+    salir_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Salir, this);
     salir_->setToolTip(QStringLiteral(" Salir de Imprimir "));
     connect(imprimir_, &BotonDialogo::pulsado, this, [this] { imprime(); });
     connect(ayuda_, &BotonDialogo::pulsado, this, [this] {
@@ -84,7 +84,7 @@ Impresor::Impresor(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre
 
 bool Impresor::guardaPdf(const QString& archivo) {
     if (EscribePdf(archivo, ctx_.e, ctx_.c)) return true;
-    MuestraMensaje(ctx_.e, this,
+    MuestraMensaje(ctx_.e, ctx_.controles, this,
                    A1252("No se puede escribir el archivo " + QDir::toNativeSeparators(archivo).toStdString()),
                    "Imprimir", 1, 1);
     return false;
@@ -99,11 +99,11 @@ void Impresor::imprime() {
     QPrintDialog dialogo(&impresora, this);
     dialogo.setWindowTitle(QStringLiteral("Imprimir el cielo"));
     if (dialogo.exec() != QDialog::Accepted) return;
-    controles::FijaCursor(ctx_.e, this, cursor::Espera);
+    controles::FijaCursor(ctx_.controles, this, cursor::Espera);
     const bool bien = ImprimePagina(impresora, ctx_.e, ctx_.c);
-    controles::FijaCursor(ctx_.e, this, cursor::Normal);
+    controles::FijaCursor(ctx_.controles, this, cursor::Normal);
     if (!bien) {
-        MuestraMensaje(ctx_.e, this, A1252("No se ha podido imprimir: la impresora no responde"), "Imprimir", 1, 1);
+        MuestraMensaje(ctx_.e, ctx_.controles, this, A1252("No se ha podido imprimir: la impresora no responde"), "Imprimir", 1, 1);
         return;
     }
     done(QDialog::Accepted);

@@ -38,12 +38,12 @@ InfoObjeto::InfoObjeto(ContextoDialogo& ctx, const ObjetoSenalado& objeto) : QDi
     caja->addWidget(new Relieve(QStringLiteral("Hoy en este lugar"), this));
     for (const std::string& t : dia) linea(t);
 
-    auto* ayuda = new BotonDialogo(ctx.e, BotonDialogo::Tipo::Ayuda, this);
+    auto* ayuda = new BotonDialogo(ctx.controles, BotonDialogo::Tipo::Ayuda, this);
     ayuda->setToolTip(QStringLiteral(" Ayuda: el teclado y el ratón "));
     connect(ayuda, &BotonDialogo::pulsado, this, [&ctx] {
         if (ctx.Ayuda) ctx.Ayuda(tema::TECLADO);
     });
-    salir_ = new BotonDialogo(ctx.e, BotonDialogo::Tipo::Salir, this);
+    salir_ = new BotonDialogo(ctx.controles, BotonDialogo::Tipo::Salir, this);
     salir_->setToolTip(QStringLiteral(" Salir de la información "));
     connect(salir_, &BotonDialogo::pulsado, this, [this] { done(QDialog::Rejected); });
     auto* pie = new QHBoxLayout;

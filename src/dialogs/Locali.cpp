@@ -86,7 +86,7 @@ Locali::Locali(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
         if (QListWidgetItem* i = lugares_->currentItem(); i && !i->isHidden()) eligeLugar(lugares_->row(i));
     });
 
-    mapa_ = new MapaMundi(e, ctx_.c, this);
+    mapa_ = new MapaMundi(e, ctx_.controles, ctx_.c, this);
     connect(mapa_, &MapaMundi::lugarPulsado, this, [this](int i) {
         filtro_->clear();
         eligeLugar(i);
@@ -98,8 +98,8 @@ Locali::Locali(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
         muestraValores();
     });
 
-    longitud_ = new SpinAngulo(e, 25, 14, this);
-    latitud_ = new SpinAngulo(e, 26, 13, this);
+    longitud_ = new SpinAngulo(ctx_.controles, 25, 14, this);
+    latitud_ = new SpinAngulo(ctx_.controles, 26, 13, this);
     PreparaAngulo(longitud_, e, TipoAngulo::Longitud);
     PreparaAngulo(latitud_, e, TipoAngulo::Latitud);
     for (Spin* s : {longitud_, latitud_})
@@ -107,21 +107,21 @@ Locali::Locali(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
             ActualizaLugar(ctx_.e, ctx_.c.TablaPlanetas);
             mapa_->Actualiza();
         });
-    zona_ = new Spin(e, 27, this);
+    zona_ = new Spin(ctx_.controles, 27, this);
     zona_->setAlmacen([this](float v) {
         ctx_.e.ZonaHoraria = v;
         ActualizaLugar(ctx_.e, ctx_.c.TablaPlanetas);
     });
-    direccion_ = new Spin(e, 28, this);
+    direccion_ = new Spin(ctx_.controles, 28, this);
     direccion_->setAlmacen([&e](float v) { e.Direccion = v * GRADO; });
-    elevacion_ = new Spin(e, 29, this);
+    elevacion_ = new Spin(ctx_.controles, 29, this);
     elevacion_->setAlmacen([&e](float v) { e.Elevacion = v * GRADO; });
-    zoom_ = new Spin(e, 30, this);
+    zoom_ = new Spin(ctx_.controles, 30, this);
     zoom_->setAlmacen([&e](float v) { e.Zoom = v; });
 
-    ayuda_ = new BotonDialogo(e, BotonDialogo::Tipo::Ayuda, this);
+    ayuda_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Ayuda, this);
     ayuda_->setToolTip(QStringLiteral(" Ayuda sobre Localización "));
-    salir_ = new BotonDialogo(e, BotonDialogo::Tipo::Salir, this);
+    salir_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Salir, this);
     salir_->setToolTip(QStringLiteral(" Salir de Localización "));
     connect(ayuda_, &BotonDialogo::pulsado, this, [this] {
         if (ctx_.Ayuda) ctx_.Ayuda(TEMA_AYUDA_LOCALI);
@@ -217,7 +217,7 @@ void Locali::paintEvent(QPaintEvent*) { PintaFondoForma(this); }
 
 void Locali::keyPressEvent(QKeyEvent* ev) {
     if (ev->key() == Qt::Key_Escape) {
-        controles::Suena(ctx_.e, 1, 9);
+        controles::Suena(ctx_.controles, 1, 9);
         sale();
         return;
     }

@@ -48,7 +48,8 @@ const std::vector<std::vector<QPointF>>& LineasCosta() {
     return lineas;
 }
 
-MapaMundi::MapaMundi(Estado& e, const Catalogos& c, QWidget* padre) : QWidget(padre), e_(e), c_(c) {
+MapaMundi::MapaMundi(const Estado& e, controles::Contexto& controles, const Catalogos& c, QWidget* padre)
+    : QWidget(padre), e_(e), controles_(controles), c_(c) {
     setMouseTracking(true);
     setToolTip(QStringLiteral(" Pulse sobre un lugar para elegirlo, o en cualquier otro punto para situarse en él "));
 }
@@ -151,7 +152,7 @@ void MapaMundi::paintEvent(QPaintEvent*) {
 void MapaMundi::mouseMoveEvent(QMouseEvent* ev) {
     const bool dentro = area().contains(ev->position());
     const int16_t puntero = dentro ? cursor::ManoIndice : cursor::Normal;
-    if (e_.CursorActual != puntero) controles::FijaCursor(e_, this, puntero);
+    if (controles_.CursorActual != puntero) controles::FijaCursor(controles_, this, puntero);
 }
 
 void MapaMundi::mouseReleaseEvent(QMouseEvent* ev) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/estado/Estado.h"
+#include "ui/controles/Contexto.h"
 #include "catalogue/Catalogos.h"
 
 namespace vedrano {
@@ -14,7 +15,7 @@ namespace vedrano {
 class MapaMundi : public QWidget {
     Q_OBJECT
 public:
-    MapaMundi(Estado& e, const Catalogos& c, QWidget* padre = nullptr);
+    MapaMundi(const Estado& e, controles::Contexto& controles, const Catalogos& c, QWidget* padre = nullptr);
     QSize sizeHint() const override { return {2 * ANCHO_GRADOS, 2 * ALTO_GRADOS}; }
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -42,7 +43,8 @@ private:
     void RayasMapa(QPainter& p) const;
     void DibujaPuntos(QPainter& p) const;
 
-    Estado& e_;
+    const Estado& e_;
+    controles::Contexto& controles_;
     const Catalogos& c_;
     QImage fondo_;  // the coastlines, drawn once per size
 };

@@ -88,7 +88,7 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
     nuevaCasilla(profundo->contenido(), "Qu\xE1" "sares", s.Quasa);
     nuevaCasilla(profundo->contenido(), "P\xFA" "lsares", s.Pulsa);
     nuevaCasilla(profundo->contenido(), "Agujeros Negros", s.Aguje);
-    identificar_ = new Interruptor(e, control::IdentificarObjetos);
+    identificar_ = new Interruptor(ctx_.controles, control::IdentificarObjetos);
     identificar_->setEncendido(e.IdentificarObjetos);
     identificar_->setMinimumWidth(identificar_->sizeHint().width());
     connect(identificar_, &Interruptor::cambiado, this, [&e](bool si) { e.IdentificarObjetos = si; });
@@ -134,7 +134,7 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
 }
 
 Casilla* Objetos::nuevaCasilla(QBoxLayout* donde, const std::string& textoCp1252, int16_t& campo) {
-    auto* c = new Casilla(ctx_.e, textoCp1252);
+    auto* c = new Casilla(ctx_.controles, textoCp1252);
     c->setMarcada(campo != 0);
     connect(c, &Casilla::cambiada, this, [&campo](bool si) { campo = si ? 1 : 0; });
     donde->addWidget(c);
@@ -143,7 +143,7 @@ Casilla* Objetos::nuevaCasilla(QBoxLayout* donde, const std::string& textoCp1252
 }
 
 Casilla* Objetos::nuevaPreferencia(QBoxLayout* donde, const std::string& textoCp1252, bool& campo) {
-    auto* c = new Casilla(ctx_.e, textoCp1252);
+    auto* c = new Casilla(ctx_.controles, textoCp1252);
     c->setMarcada(campo);
     connect(c, &Casilla::cambiada, this, [&campo](bool si) { campo = si; });
     donde->addWidget(c);
@@ -152,7 +152,7 @@ Casilla* Objetos::nuevaPreferencia(QBoxLayout* donde, const std::string& textoCp
 }
 
 Spin* Objetos::nuevoSpin(QBoxLayout* donde, int indice, int16_t& campo) {
-    auto* sp = new Spin(ctx_.e, indice);
+    auto* sp = new Spin(ctx_.controles, indice);
     sp->setValor(campo);
     sp->setAlmacen([&campo](float v) { campo = static_cast<int16_t>(std::lround(v)); });
     donde->addWidget(sp);
@@ -164,7 +164,7 @@ std::vector<Casilla*> Objetos::nuevasOpciones(QBoxLayout* donde, const std::vect
                                               int16_t& campo) {
     std::vector<Casilla*> grupo;
     for (std::size_t i = 0; i < textosCp1252.size(); ++i) {
-        auto* c = new Casilla(ctx_.e, textosCp1252[i]);
+        auto* c = new Casilla(ctx_.controles, textosCp1252[i]);
         // A value outside the choices (from a hand-edited file) shows the first.
         c->setMarcada(static_cast<int>(i) == campo ||
                       (i == 0 && (campo < 0 || campo >= static_cast<int16_t>(textosCp1252.size()))));

@@ -33,7 +33,7 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
     auto* interfaz = new Grupo("Manejo");
     nuevoInterruptor(interfaz->contenido(), control::Sonido, e.Sonido);
     nuevoInterruptor(interfaz->contenido(), control::AnimarTrasCambio, e.AnimarTrasCambio);
-    velocidad_ = new Potenciometro(e, control::Velocidad);
+    velocidad_ = new Potenciometro(ctx_.controles, control::Velocidad);
     velocidad_->setPosicion(e.Velocidad);
     velocidad_->setFixedSize(velocidad_->sizeHint());
     connect(velocidad_, &Potenciometro::posicionCambiada, this,
@@ -42,7 +42,7 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
 
     auto* cielo = new Grupo("Cielo");
     // Mirrored is any value but 1; the selector shows it as its second choice.
-    orientacion_ = new Selector(e, control::OrientacionCielo,
+    orientacion_ = new Selector(ctx_.controles, control::OrientacionCielo,
                                 {Etiqueta(control::CieloNormal), Etiqueta(control::CieloInvertido)});
     orientacion_->setEleccion(e.Orientacion == 1 ? 1 : 2);
     connect(orientacion_, &Selector::eleccionCambiada, this, [this, &e](int eleccion) {
@@ -54,7 +54,7 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
     precisionAlta_ = nuevaPreferencia(cielo->contenido(), "Precisi\xF3n alta", e.Pref.PrecisionAlta);
     // The telescope circle and its field, shown in degrees and kept in radians.
     nuevoInterruptor(cielo->contenido(), control::Telescopio, e.Telescopio);
-    auto* campo = new Spin(e, control::DiametroTelescopio);
+    auto* campo = new Spin(ctx_.controles, control::DiametroTelescopio);
     campo->setValor(static_cast<float>(e.CampoTelescopio * RAD_A_GRADOS));
     campo->setAlmacen([&e](float grados) {
         // Only a new value is stored: the tenths of a degree shown are a
@@ -70,7 +70,7 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
     nuevoInterruptor(ventana->contenido(), control::PanelObjetos, e.PanelObjetos);
 
     auto* horas = new Grupo("Fecha y hora");
-    formatoHora_ = new Selector(e, control::FormatoHora, {Etiqueta(control::Hora24), Etiqueta(control::HoraAmPm)});
+    formatoHora_ = new Selector(ctx_.controles, control::FormatoHora, {Etiqueta(control::Hora24), Etiqueta(control::HoraAmPm)});
     formatoHora_->setEleccion(e.FormatoHora == 1 ? 1 : 2);
     connect(formatoHora_, &Selector::eleccionCambiada, this,
             [&e](int eleccion) { e.FormatoHora = static_cast<int16_t>(eleccion == 1 ? 1 : 2); });
@@ -97,7 +97,7 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
 }
 
 Interruptor* Personal::nuevoInterruptor(QBoxLayout* donde, int indice, bool& campo) {
-    auto* s = new Interruptor(ctx_.e, indice);
+    auto* s = new Interruptor(ctx_.controles, indice);
     s->setEncendido(campo);
     s->setMinimumWidth(s->sizeHint().width());
     connect(s, &Interruptor::cambiado, this, [&campo](bool si) { campo = si; });
@@ -107,7 +107,7 @@ Interruptor* Personal::nuevoInterruptor(QBoxLayout* donde, int indice, bool& cam
 }
 
 Interruptor* Personal::nuevaPreferencia(QBoxLayout* donde, const char* rotulo, bool& campo) {
-    auto* s = new Interruptor(ctx_.e, Texto(rotulo));
+    auto* s = new Interruptor(ctx_.controles, Texto(rotulo));
     s->setEncendido(campo);
     s->setMinimumWidth(s->sizeHint().width());
     connect(s, &Interruptor::cambiado, this, [&campo](bool si) { campo = si; });

@@ -38,7 +38,7 @@ struct MensajesAnotados : vedrano::InterfazMensajes {
 
 struct EntornoDialogo {
     explicit EntornoDialogo(const vedrano::Catalogos& cat = CatalogosDatos())
-        : c(cat), ctx{e, c, mensajes, nullptr, {}, {}, {}, {}, {}} {
+        : c(cat), ctx{e, controles, ventana, c, mensajes, nullptr, {}, {}, {}, {}, {}} {
         e.DirArchivo = (std::filesystem::temp_directory_path() / "vedrano_dialogos").string() + "/";
         std::filesystem::create_directories(e.DirArchivo);
         e.Velocidad = 100;
@@ -54,6 +54,8 @@ struct EntornoDialogo {
         vedrano::ActualizaCielo(e, c, lienzo);
     }
     vedrano::Estado e;
+    vedrano::controles::Contexto controles{e.Sonido, e.Velocidad};
+    vedrano::EstadoVentana ventana;
     const vedrano::Catalogos& c;
     MensajesAnotados mensajes;
     vedrano::Lienzo lienzo{800, 600};

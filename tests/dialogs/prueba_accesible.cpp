@@ -88,7 +88,8 @@ TEST(Accesible, MainWindowControlsHaveNameAndValueAndAllTakeTheFocus) {
     pruebas::Falsos f;
     Estado e;
     e.PanelCursor = true;
-    Cielo cielo(e, pruebas::CatalogosDatos(), DialogosCielo{});
+    controles::Contexto k{e.Sonido, e.Velocidad};
+    Cielo cielo(e, k, pruebas::CatalogosDatos(), DialogosCielo{});
     cielo.show();
     cielo.ActualizaCielo();
     EXPECT_GE(LeeControles(&cielo), 9 + 5 + 1 + 16);
@@ -127,8 +128,8 @@ TEST(Accesible, EveryFormTellsNameAndValueOfEachControl) {
         [&] { return std::make_unique<Buscar>(d.ctx); },
         [&] { return std::make_unique<Impresor>(d.ctx); },
         [&] { return std::make_unique<Animar>(d.ctx); },
-        [&] { return std::make_unique<Mensajes>(d.e, nullptr, "Texto", "Titulo", 2, 1, 1020); },
-        [&] { return std::make_unique<VentanaAyuda>(d.e, nullptr, tema::TECLADO); },
+        [&] { return std::make_unique<Mensajes>(d.e, d.controles, nullptr, "Texto", "Titulo", 2, 1, 1020); },
+        [&] { return std::make_unique<VentanaAyuda>(d.controles, nullptr, tema::TECLADO); },
     };
     for (const auto& crea : formas) {
         std::unique_ptr<QWidget> forma = crea();
@@ -140,10 +141,11 @@ TEST(Accesible, EveryFormTellsNameAndValueOfEachControl) {
 // Space and Return press, the arrows step: as the mouse gestures do.
 TEST(Accesible, KeysActAsTheMouseGestures) {
     pruebas::Falsos f;
-    Estado e;
-    e.Velocidad = 100;
+    bool sonido = false;
+    int16_t velocidad = 100;
+    controles::Contexto k{sonido, velocidad};
     QWidget forma;
-    controles::Interruptor interruptor(e, 1, &forma);
+    controles::Interruptor interruptor(k, 1, &forma);
     int cambios = 0;
     QObject::connect(&interruptor, &controles::Interruptor::cambiado, [&](bool) { ++cambios; });
     Tecla(&interruptor, Qt::Key_Space);
@@ -154,7 +156,7 @@ TEST(Accesible, KeysActAsTheMouseGestures) {
     EXPECT_EQ(cambios, 2);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&interruptor)->state().checkable, 1);
 
-    controles::Potenciometro deslizador(e, 1, &forma);
+    controles::Potenciometro deslizador(k, 1, &forma);
     deslizador.setPosicion(50);
     Tecla(&deslizador, Qt::Key_Right);
     Tecla(&deslizador, Qt::Key_PageDown);
@@ -162,7 +164,7 @@ TEST(Accesible, KeysActAsTheMouseGestures) {
     Tecla(&deslizador, Qt::Key_End);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&deslizador)->text(QAccessible::Value), QStringLiteral("100"));
 
-    controles::Selector selector(e, 1, {"uno", "dos", "tres"}, &forma);
+    controles::Selector selector(k, 1, {"uno", "dos", "tres"}, &forma);
     Tecla(&selector, Qt::Key_Space);
     EXPECT_EQ(selector.eleccion(), 2);
     Tecla(&selector, Qt::Key_Left);
@@ -172,7 +174,7 @@ TEST(Accesible, KeysActAsTheMouseGestures) {
 
     // A spin steps by its record and stops at its ends; the arrow keys
     // reach it from its text field too.
-    controles::Spin spin(e, 30, &forma);
+    controles::Spin spin(k, 30, &forma);
     float almacenado = -1;
     spin.setAlmacen([&](float v) { almacenado = v; });
     spin.setValor(14.5f);

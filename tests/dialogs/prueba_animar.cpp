@@ -43,9 +43,11 @@ protected:
         ctx.ParaTiempoReal = [this] { ++paradas; };
     }
     Estado e;
+    controles::Contexto controles{e.Sonido, e.Velocidad};
+    EstadoVentana ventana;
     Catalogos c;
     SinMensajes m;
-    ContextoDialogo ctx{e, c, m, nullptr, {}, {}, {}, {}, {}};
+    ContextoDialogo ctx{e, controles, ventana, c, m, nullptr, {}, {}, {}, {}, {}};
     pruebas::Falsos f;
     int arranques = 0, paradas = 0;
 };
@@ -81,7 +83,7 @@ TEST_F(FormaAnimar, UnidadYCantidad) {
     // The up key held for two steps.
     const QPoint arriba(a.cantidad()->width() - 10, 8);
     f.reloj.alDormir = [this](int n) {
-        if (n >= 4) e.SujecionSpin = false;  // two pauses a step
+        if (n >= 4) controles.SujecionSpin = false;  // two pauses a step
     };
     Raton(a.cantidad(), QEvent::MouseMove, arriba);
     Raton(a.cantidad(), QEvent::MouseButtonPress, arriba);
@@ -107,7 +109,7 @@ TEST_F(FormaAnimar, SalirSinCambiosConservaElSentido) {
 
 TEST_F(FormaAnimar, TiempoRealArrancaElRelojYSaltaAlPresente) {
     e.TiempoReal = false;
-    e.ContadorTiempoReal = 37;
+    ventana.ContadorTiempoReal = 37;
     e.ZonaHoraria = 1;
     bool terminado = false;
     // The form shown as the main window shows it, answered once it is up.
@@ -122,7 +124,7 @@ TEST_F(FormaAnimar, TiempoRealArrancaElRelojYSaltaAlPresente) {
         a->setReloj([] { return 2451544.5 - 2415018.5 + 12.0 / 24; });
         Clic(a->tiempoReal(), QPoint(5, 5));
         EXPECT_TRUE(e.TiempoReal);
-        EXPECT_EQ(e.ContadorTiempoReal, 0);
+        EXPECT_EQ(ventana.ContadorTiempoReal, 0);
         Sal(*a);
         terminado = true;
     });

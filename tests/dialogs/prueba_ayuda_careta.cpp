@@ -10,6 +10,7 @@
 
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
+#include "app/estado/Estado.h"
 #include "dialogs/piezas/Ayuda.h"
 #include "dialogs/Careta.h"
 #include "ui/controles/BotonDialogo.h"
@@ -51,25 +52,26 @@ TEST(Ayuda, CadaTemaYCadaEnlaceLlevanAUnaPagina) {
 TEST(Ayuda, VentanaNoModalUnaParaTodosLosTemas) {
     pruebas::AseguraAplicacion();
     pruebas::Falsos f;
-    Estado e;
-    e.Velocidad = 100;
+    bool sonido = false;
+    int16_t velocidad = 100;
+    controles::Contexto controles{sonido, velocidad};
     QWidget cielo;
     cielo.resize(800, 600);
     cielo.show();
-    VentanaAyuda* v = MuestraAyuda(e, &cielo, tema::GENERAL);
+    VentanaAyuda* v = MuestraAyuda(controles, &cielo, tema::GENERAL);
     ASSERT_NE(v, nullptr);
     EXPECT_TRUE(v->isVisible());
     EXPECT_FALSE(v->isModal());
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_EQ(v->visor()->documentTitle(), QString::fromUtf8("Descripción general de VEDRANO"));
-    EXPECT_EQ(MuestraAyuda(e, &cielo, tema::TECLADO), v);
+    EXPECT_EQ(MuestraAyuda(controles, &cielo, tema::TECLADO), v);
     EXPECT_EQ(v->visor()->documentTitle(), QStringLiteral("Teclado"));
 
     QDialog forma(&cielo);
     forma.setModal(true);
     forma.show();
     ASSERT_EQ(QApplication::activeModalWidget(), &forma);
-    EXPECT_EQ(MuestraAyuda(e, &cielo, tema::BUSCAR), v);
+    EXPECT_EQ(MuestraAyuda(controles, &cielo, tema::BUSCAR), v);
     EXPECT_EQ(v->parentWidget(), &forma);
     forma.accept();
     EXPECT_EQ(v->parentWidget(), &cielo);

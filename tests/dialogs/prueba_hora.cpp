@@ -59,11 +59,11 @@ void Escribe(QLineEdit* campo, const QString& texto, bool saliendo = false) {
 }
 
 // One press of a step key held for `pasos` steps.
-void PulsaTecla(controles::TeclaAD* t, pruebas::Falsos& f, Estado& e, bool arriba, int pasos) {
+void PulsaTecla(controles::TeclaAD* t, pruebas::Falsos& f, controles::Contexto& controles, bool arriba, int pasos) {
     const QPoint p(t->width() / 2, arriba ? 8 : 20);
     int vistos = 0;
     f.reloj.alDormir = [&](int) {
-        if (++vistos >= pasos) e.SujecionSpin = false;
+        if (++vistos >= pasos) controles.SujecionSpin = false;
     };
     Raton(t, QEvent::MouseMove, p);
     Raton(t, QEvent::MouseButtonPress, p);
@@ -128,9 +128,11 @@ protected:
         e.Sonido = true;
     }
     Estado e;
+    controles::Contexto controles{e.Sonido, e.Velocidad};
+    EstadoVentana ventana;
     Catalogos c;
     SinMensajes m;
-    ContextoDialogo ctx{e, c, m, nullptr, {}, {}, {}, {}, {}};
+    ContextoDialogo ctx{e, controles, ventana, c, m, nullptr, {}, {}, {}, {}, {}};
     pruebas::Falsos f;
 };
 
@@ -293,18 +295,18 @@ TEST_F(FormaHora, PasosDeAnoSinAnoCero) {
     e.TipoPaso = 1;
     e.FechaJuliana = Juliana(1, 1, 1, 12, 0);
     Hora h(ctx);
-    PulsaTecla(h.tecla(4), f, e, false, 1);
+    PulsaTecla(h.tecla(4), f, controles, false, 1);
     EXPECT_EQ(h.ano(0)->text().trimmed(), "-1");
     EXPECT_DOUBLE_EQ(e.FechaJuliana, 1721058.0);  // 1 January 1 BC, a leap year before 1 AD
     EXPECT_EQ(e.TeclaPaso, 5);
-    PulsaTecla(h.tecla(4), f, e, true, 1);
+    PulsaTecla(h.tecla(4), f, controles, true, 1);
     EXPECT_EQ(h.ano(0)->text().trimmed(), "1");
     // A century back from 100 AD lands on 1 BC as well.
     Escribe(h.ano(0), "100");
-    PulsaTecla(h.tecla(5), f, e, false, 1);
+    PulsaTecla(h.tecla(5), f, controles, false, 1);
     EXPECT_EQ(h.ano(0)->text().trimmed(), "-1");
     // A millennium held down stops at the first year.
-    PulsaTecla(h.tecla(6), f, e, false, 8);
+    PulsaTecla(h.tecla(6), f, controles, false, 8);
     EXPECT_EQ(h.ano(0)->text().trimmed(), "-4713");
     EXPECT_EQ(h.dia(0)->text(), "01");
 }
@@ -319,22 +321,22 @@ TEST_F(FormaHora, TeclaSostenidaYPasosSidereos) {
     std::vector<bool> redibujo;
     const QPoint arriba(h.tecla(0)->width() / 2, 8);
     f.reloj.alDormir = [&](int n) {
-        redibujo.push_back(e.RedibujoPermitido);
-        if (n >= 3) e.SujecionSpin = false;
+        redibujo.push_back(ventana.RedibujoPermitido);
+        if (n >= 3) controles.SujecionSpin = false;
     };
     Raton(h.tecla(0), QEvent::MouseMove, arriba);
     Raton(h.tecla(0), QEvent::MouseButtonPress, arriba);
     f.reloj.alDormir = nullptr;
     EXPECT_EQ(h.hora(0)->text(), "12:03");
     EXPECT_EQ(redibujo, (std::vector<bool>{false, false, false}));
-    EXPECT_TRUE(e.RedibujoPermitido);
+    EXPECT_TRUE(ventana.RedibujoPermitido);
     EXPECT_EQ(f.sonidos.oidos, (std::vector<int>{4, 4, 4}));
 
     // A sidereal day, and a sidereal year (365 of them) backward.
     const double antes = e.FechaJuliana;
-    PulsaTecla(h.tecla(2), f, e, true, 1);
+    PulsaTecla(h.tecla(2), f, controles, true, 1);
     EXPECT_NEAR(e.FechaJuliana - antes, 0.9972695664235, 1e-9);
-    PulsaTecla(h.tecla(4), f, e, false, 1);
+    PulsaTecla(h.tecla(4), f, controles, false, 1);
     EXPECT_NEAR(e.FechaJuliana - antes, 0.9972695664235 - 365 * 0.9972695664235, 1e-8);
 }
 
@@ -349,7 +351,7 @@ TEST_F(FormaHora, LoEscritoSinSalirNoSePierde) {
         QKeyEvent t(QEvent::KeyPress, ch.unicode(), Qt::NoModifier, QString(ch));
         QCoreApplication::sendEvent(h.ano(0), &t);
     }
-    PulsaTecla(h.tecla(2), f, e, true, 1);  // one solar day
+    PulsaTecla(h.tecla(2), f, controles, true, 1);  // one solar day
     EXPECT_DOUBLE_EQ(e.FechaJuliana, Juliana(1999, 1, 2, 12, 0));
 }
 

@@ -46,6 +46,7 @@ class Mensaje : public ::testing::Test {
 protected:
     void SetUp() override { e.Velocidad = 100; }
     Estado e;
+    controles::Contexto controles{e.Sonido, e.Velocidad};
     pruebas::Falsos f;
     const std::string texto = "Primera l\xEDnea\r\nSegunda l\xEDnea";
 };
@@ -56,31 +57,31 @@ TEST_F(Mensaje, BotonesDeLosDosJuegos) {
         EXPECT_EQ(m.botonCancelar(), nullptr);
         Pulsa(m.botonAceptar());
     });
-    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Aviso", 1, 2), -1);
+    EXPECT_EQ(MuestraMensaje(e, controles, nullptr, texto, "Aviso", 1, 2), -1);
     EXPECT_EQ(e.RespuestaMensaje, -1);
 
     CuandoAparezca([](Mensajes& m) { Pulsa(m.botonCancelar()); });
-    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Pregunta", 2, 6), 0);
+    EXPECT_EQ(MuestraMensaje(e, controles, nullptr, texto, "Pregunta", 2, 6), 0);
     EXPECT_EQ(e.RespuestaMensaje, 0);
 
     CuandoAparezca([](Mensajes& m) { Pulsa(m.botonAceptar()); });
-    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Pregunta", 2, 6), -1);
+    EXPECT_EQ(MuestraMensaje(e, controles, nullptr, texto, "Pregunta", 2, 6), -1);
 }
 
 TEST_F(Mensaje, EscYCerrarCancelanSoloSiHayCancelar) {
     e.RespuestaMensaje = 0;
     CuandoAparezca([](Mensajes& m) { Tecla(&m, Qt::Key_Escape); });
-    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Aviso", 1, 1), -1);
+    EXPECT_EQ(MuestraMensaje(e, controles, nullptr, texto, "Aviso", 1, 1), -1);
 
     CuandoAparezca([](Mensajes& m) { Tecla(&m, Qt::Key_Escape); });
-    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Pregunta", 2, 3), 0);
+    EXPECT_EQ(MuestraMensaje(e, controles, nullptr, texto, "Pregunta", 2, 3), 0);
 
     e.RespuestaMensaje = -1;
     CuandoAparezca([](Mensajes& m) { m.close(); });
-    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Pregunta", 2, 3), 0);
+    EXPECT_EQ(MuestraMensaje(e, controles, nullptr, texto, "Pregunta", 2, 3), 0);
 
     CuandoAparezca([](Mensajes& m) { Tecla(&m, Qt::Key_Return); });
-    EXPECT_EQ(MuestraMensaje(e, nullptr, texto, "Pregunta", 2, 3), -1);
+    EXPECT_EQ(MuestraMensaje(e, controles, nullptr, texto, "Pregunta", 2, 3), -1);
 }
 
 TEST_F(Mensaje, AyudaConSuTemaYAdaptador) {
@@ -91,7 +92,7 @@ TEST_F(Mensaje, AyudaConSuTemaYAdaptador) {
         Pulsa(m.botonAyuda());
         Pulsa(m.botonAceptar());
     });
-    MuestraMensaje(e, nullptr, texto, "VEDRANO 3.2", 1, 3, 1020);
+    MuestraMensaje(e, controles, nullptr, texto, "VEDRANO 3.2", 1, 3, 1020);
     EXPECT_EQ(tema, 1020);
     EXPECT_EQ(e.BotonesMensaje, 1);  // the state keeps what the last message asked
     EXPECT_EQ(e.IconoMensaje, 3);
@@ -99,7 +100,7 @@ TEST_F(Mensaje, AyudaConSuTemaYAdaptador) {
     FijaAyudaMensajes(nullptr);
 
     // The configuration side hears the answer through the adapter.
-    MensajesVentana v(e, nullptr);
+    MensajesVentana v(e, controles, nullptr);
     CuandoAparezca([](Mensajes& m) { Pulsa(m.botonCancelar()); });
     EXPECT_EQ(v.Mensaje(texto, "Guardar configuraci\xF3n", 2, 2), 0);
 }
@@ -115,7 +116,7 @@ TEST_F(Mensaje, LaCaretaSeVaAntesDeCualquierMensaje) {
         caretaVisible = careta && careta->isVisible();
         Tecla(&m, Qt::Key_Return);
     });
-    MuestraMensaje(e, nullptr, texto, "ERROR", 1, 1);
+    MuestraMensaje(e, controles, nullptr, texto, "ERROR", 1, 1);
     EXPECT_FALSE(caretaVisible);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(careta.isNull());
@@ -134,13 +135,13 @@ TEST_F(Mensaje, CentradoEnLaVentanaOEnLaPantalla) {
         Tecla(&m, Qt::Key_Return);
     };
     CuandoAparezca(mira);
-    MuestraMensaje(e, &ventana, texto, "Aviso", 1, 2);
+    MuestraMensaje(e, controles, &ventana, texto, "Aviso", 1, 2);
     EXPECT_LE((centro - util.center()).manhattanLength(), 2);
 
     ventana.show();
     ventana.move(util.left() + util.width() / 2 - 100, util.top() + util.height() / 2 - 50);
     CuandoAparezca(mira);
-    MuestraMensaje(e, &ventana, texto, "Aviso", 1, 2);
+    MuestraMensaje(e, controles, &ventana, texto, "Aviso", 1, 2);
     EXPECT_LE((centro - ventana.frameGeometry().center()).manhattanLength(), 2);
 }
 

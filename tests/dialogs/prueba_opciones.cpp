@@ -56,10 +56,12 @@ protected:
         pruebas::AseguraAplicacion();
         e.Velocidad = 100;
         ctx = std::make_unique<ContextoDialogo>(ContextoDialogo{
-            e, c, m, nullptr, [this] { ++actualizaciones; }, [this] { ++dibujos; },
+            e, controles, ventana, c, m, nullptr, [this] { ++actualizaciones; }, [this] { ++dibujos; },
             [this](int t) { temas.push_back(t); }, {}, {}});
     }
     Estado e;
+    controles::Contexto controles{e.Sonido, e.Velocidad};
+    EstadoVentana ventana;
     Catalogos c;
     MensajesGuion m;
     pruebas::Falsos f;
@@ -114,7 +116,7 @@ TEST_F(Opciones, ObjetosNivelesPorFlechasYTecleados) {
     ASSERT_NE(magnitud, nullptr);
     // Held on the upper key for three steps: level 1 becomes 4.
     f.reloj.alDormir = [this](int n) {
-        if (n == 6) e.SujecionSpin = false;
+        if (n == 6) controles.SujecionSpin = false;
     };
     const QPoint arriba(magnitud->width() - 10, 8);
     pruebas::Raton(magnitud, QEvent::MouseMove, arriba);
@@ -243,7 +245,7 @@ TEST_F(Opciones, ObjetosGuardaSusInterruptoresComoPreferenciasYNoComoConfiguraci
     otro.Pref = LeePreferencias(e.ArchivoPreferencias);
     EXPECT_TRUE(otro.Pref.EstrellasDebiles);
     EXPECT_FALSE(otro.Pref.TodosLosRotulos);
-    ContextoDialogo ctx2{otro, c, m, nullptr, {}, {}, {}, {}, {}, true};
+    ContextoDialogo ctx2{otro, controles, ventana, c, m, nullptr, {}, {}, {}, {}, {}, true};
     Objetos d(ctx2);
     EXPECT_TRUE(d.casilla(QString::fromUtf8("Estrellas débiles"))->marcada());
     EXPECT_FALSE(d.casilla(QString::fromUtf8("Todos los rótulos"))->marcada());

@@ -43,26 +43,28 @@ struct Contestador {
 struct Ventana {
     pruebas::Falsos falsos;
     Estado e;
+    controles::Contexto k{e.Sonido, e.Velocidad};
     DialogosCielo dialogos;
     std::unique_ptr<Cielo> cielo;
     Ventana() {
         e.FechaJuliana = 2460700.5;
         dialogos.Mensaje = [this](QWidget* p, const std::string& t, const std::string& ti, int16_t b, int16_t i) {
-            return MuestraMensaje(e, p, t, ti, b, i);
+            return MuestraMensaje(e, k, p, t, ti, b, i);
         };
-        cielo = std::make_unique<Cielo>(e, Datos(), dialogos);
+        cielo = std::make_unique<Cielo>(e, k, Datos(), dialogos);
         cielo->ActualizaCielo();
     }
     // Presses arrow pair i at x and lets the loop run `pasos` steps.
     void Pulsa(int i, int x, int pasos) {
         int siestas = 0;
         falsos.reloj.alDormir = [this, pasos, &siestas](int) {
-            if (++siestas >= 2 * pasos) e.Sujecion = false;
+            if (++siestas >= 2 * pasos) ventana().Sujecion = false;
         };
-        e.CursorActual = cursor::ManoIndice;
+        k.CursorActual = cursor::ManoIndice;
         cielo->SubBajHaPulsado(i, x);
         falsos.reloj.alDormir = nullptr;
     }
+    EstadoVentana& ventana() { return cielo->Contexto().ventana; }
 };
 
 }  // namespace
@@ -109,9 +111,9 @@ TEST(Cielo, TimeArrowsStepAndAreRefusedInRealTime) {
     int siestas = 0;
     v.falsos.reloj.alDormir = [&](int) {
         if (++siestas == 2) trasPrimerPaso = v.e.Panel.DiaJuliano;
-        if (siestas >= 4) v.e.Sujecion = false;
+        if (siestas >= 4) v.ventana().Sujecion = false;
     };
-    v.e.CursorActual = cursor::ManoIndice;
+    v.k.CursorActual = cursor::ManoIndice;
     v.cielo->SubBajHaPulsado(4, 12);  // left: backward
     v.falsos.reloj.alDormir = nullptr;
     EXPECT_DOUBLE_EQ(v.e.FechaJuliana, antes - 2);
@@ -124,14 +126,14 @@ TEST(Cielo, TimeArrowsStepAndAreRefusedInRealTime) {
     Contestador c;
     c.Prepara(Qt::Key_Return);
     antes = v.e.FechaJuliana;
-    v.e.CursorActual = cursor::ManoIndice;
+    v.k.CursorActual = cursor::ManoIndice;
     emit v.cielo->SubBaj(4)->pulsado(40);
     EXPECT_TRUE(c.visto);
     EXPECT_EQ(v.e.FechaJuliana, antes);
 
     // A press outside the arrows' band does nothing.
     v.e.TiempoReal = false;
-    v.e.CursorActual = 0;
+    v.k.CursorActual = 0;
     emit v.cielo->SubBaj(4)->pulsado(40);
     EXPECT_EQ(v.e.FechaJuliana, antes);
 }
@@ -140,12 +142,12 @@ TEST(Cielo, OpeningADialogStopsTheAnimation) {
     Ventana v;
     bool corriaAlAbrir = true;
     v.cielo.reset();
-    v.dialogos.Objetos = [&](ContextoDialogo& ctx) { corriaAlAbrir = ctx.e.Sujecion || ctx.e.Enganche; };
-    v.cielo = std::make_unique<Cielo>(v.e, Datos(), v.dialogos);
-    v.e.Sujecion = v.e.Enganche = true;
+    v.dialogos.Objetos = [&](ContextoDialogo& ctx) { corriaAlAbrir = ctx.ventana.Sujecion || ctx.ventana.Enganche; };
+    v.cielo = std::make_unique<Cielo>(v.e, v.k, Datos(), v.dialogos);
+    v.ventana().Sujecion = v.ventana().Enganche = true;
     v.cielo->BotonSoltado(5);
     EXPECT_FALSE(corriaAlAbrir);
-    EXPECT_FALSE(v.e.Sujecion);
+    EXPECT_FALSE(v.ventana().Sujecion);
 }
 
 TEST(Cielo, CancellingTheExitKeepsTheProgram) {
@@ -173,7 +175,7 @@ TEST(Cielo, RealTimeClockAddsAMinuteEvery60Ticks) {
     EXPECT_EQ(v.e.FechaJuliana, antes);
     v.cielo->TicTiempoReal();
     EXPECT_DOUBLE_EQ(v.e.FechaJuliana, antes + 1.0 / 1440);
-    EXPECT_EQ(v.e.ContadorTiempoReal, 0);
+    EXPECT_EQ(v.ventana().ContadorTiempoReal, 0);
     v.cielo->ParaTiempoReal();
     EXPECT_FALSE(v.cielo->TiempoRealActivo());
     EXPECT_EQ(v.cielo->TextoTiempoReal(), QString::fromUtf8("Animación tiempo real"));

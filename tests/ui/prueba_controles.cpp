@@ -26,11 +26,9 @@ namespace {
 class Controles : public ::testing::Test {
 protected:
     void SetUp() override {
-        e.Sonido = true;
-        e.Velocidad = 100;
         // A repeat that missed its limit ends here instead of running on.
         f.reloj.alDormir = [this](int n) {
-            if (n >= 40) e.SujecionSpin = false;
+            if (n >= 40) k.SujecionSpin = false;
         };
     }
     // Points the mouse at the keys (which gives cursor 21) and presses a half.
@@ -39,7 +37,9 @@ protected:
         Raton(&s, QEvent::MouseMove, p);
         Raton(&s, QEvent::MouseButtonPress, p);
     }
-    Estado e;
+    bool sonido = true;
+    int16_t velocidad = 100;
+    Contexto k{sonido, velocidad};
     pruebas::Falsos f;
 };
 
@@ -60,7 +60,7 @@ TEST_F(Controles, PausaSegunVelocidad) {
 }
 
 TEST_F(Controles, SpinEnElMaximoSinVueltaNoSeMueve) {
-    Spin s(e, 36, nullptr);  // animation count, 1..999, no wrap
+    Spin s(k, 36, nullptr);  // animation count, 1..999, no wrap
     s.setValor(999);
     float guardado = -1;
     s.setAlmacen([&](float v) { guardado = v; });
@@ -72,7 +72,7 @@ TEST_F(Controles, SpinEnElMaximoSinVueltaNoSeMueve) {
 }
 
 TEST_F(Controles, SpinAvanzaHastaElLimiteConSonidoYPausas) {
-    Spin s(e, 30, nullptr);  // zoom, 1..15 by 0.5
+    Spin s(k, 30, nullptr);  // zoom, 1..15 by 0.5
     s.setValor(14);
     std::vector<float> pasos;
     QObject::connect(&s, &Spin::paso, [&](float v) { pasos.push_back(v); });
@@ -88,8 +88,8 @@ TEST_F(Controles, SpinAvanzaHastaElLimiteConSonidoYPausas) {
 
     // The same two steps down at speed 0 take about 5.06 times as long,
     // and with the sound off they are silent.
-    e.Velocidad = 0;
-    e.Sonido = false;
+    velocidad = 0;
+    sonido = false;
     f.sonidos.oidos.clear();
     s.setValor(1.5f);
     const unsigned long antes0 = f.reloj.ahora;
@@ -100,18 +100,18 @@ TEST_F(Controles, SpinAvanzaHastaElLimiteConSonidoYPausas) {
 }
 
 TEST_F(Controles, SpinConVueltaYSoltarElRaton) {
-    Spin s(e, 28, nullptr);  // direction, 0..359, wraps
+    Spin s(k, 28, nullptr);  // direction, 0..359, wraps
     s.setValor(1);
     // Let go of the hold after three steps (two pauses a step).
     f.reloj.alDormir = [&](int n) {
-        if (n == 6) e.SujecionSpin = false;
+        if (n == 6) k.SujecionSpin = false;
     };
     PulsaSpin(s, false);
     EXPECT_EQ(s.valor(), 358.0f);  // 1, 0, 359, 358
 
     // The mouse-up reaches the loop when it lets events run.
     f.reloj.alDormir = [this](int n) {
-        if (n >= 40) e.SujecionSpin = false;
+        if (n >= 40) k.SujecionSpin = false;
     };
     s.setValor(5);
     QMouseEvent suelta(QEvent::MouseButtonRelease, QPointF(s.width() - 10, 8), QPointF(), Qt::LeftButton,
@@ -119,17 +119,17 @@ TEST_F(Controles, SpinConVueltaYSoltarElRaton) {
     QCoreApplication::postEvent(&s, suelta.clone());
     PulsaSpin(s, true);
     EXPECT_EQ(s.valor(), 6.0f);
-    EXPECT_FALSE(e.SujecionSpin);
+    EXPECT_FALSE(k.SujecionSpin);
 
     // Pressed away from the keys (cursor not the pointing hand): nothing.
     Raton(&s, QEvent::MouseMove, QPoint(3, 3));
-    EXPECT_EQ(e.CursorActual, 0);
+    EXPECT_EQ(k.CursorActual, 0);
     Raton(&s, QEvent::MouseButtonPress, QPoint(3, 3));
     EXPECT_EQ(s.valor(), 6.0f);
 }
 
 TEST_F(Controles, SpinTextoEscrito) {
-    Spin s(e, 36, nullptr);
+    Spin s(k, 36, nullptr);
     float guardado = -1;
     s.setAlmacen([&](float v) { guardado = v; });
     s.campo()->setText(QStringLiteral("5000"));
@@ -144,7 +144,7 @@ TEST_F(Controles, SpinTextoEscrito) {
 }
 
 TEST_F(Controles, InterruptorCambiaConCadaClic) {
-    Interruptor i(e, 9, nullptr);
+    Interruptor i(k, 9, nullptr);
     std::vector<bool> avisos;
     QObject::connect(&i, &Interruptor::cambiado, [&](bool v) { avisos.push_back(v); });
     pruebas::Clic(&i, QPoint(10, 10));
@@ -159,7 +159,7 @@ TEST_F(Controles, InterruptorCambiaConCadaClic) {
 }
 
 TEST_F(Controles, PulsadorBajaYSubeAntesDeActuar) {
-    Pulsador b(e, 41, nullptr);
+    Pulsador b(k, 41, nullptr);
     b.resize(200, 23);
     int acciones = 0;
     QObject::connect(&b, &Pulsador::accionado, [&] {
@@ -184,7 +184,7 @@ TEST_F(Controles, CaraDelPulsadorEstiradaOCortada) {
         return c;
     };
     for (int ancho : {300, 131, 90}) {
-        Pulsador b(e, 0, nullptr);  // the centred label stays clear of the edges
+        Pulsador b(k, 0, nullptr);  // the centred label stays clear of the edges
         b.resize(ancho, 23);
         const QImage im = b.grab().toImage().convertToFormat(QImage::Format_RGB32);
         EXPECT_EQ(columna(im, ancho - 2, 0), columna(mapa, 129, 46)) << ancho;
@@ -206,7 +206,7 @@ TEST_F(Controles, SinDispositivoDeSonidoNoFallaNiEspera) {
 
 TEST_F(Controles, IndiceFueraDeLasTablas) {
     try {
-        Spin s(e, 41, nullptr);
+        Spin s(k, 41, nullptr);
         FAIL() << "a spin of index 41 was made";
     } catch (const ErrorEjecucion& err) {
         EXPECT_EQ(err.numero(), 9);

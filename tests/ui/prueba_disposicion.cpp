@@ -56,10 +56,11 @@ std::vector<const QWidget*> Partes(const Cielo& c) {
 struct Principal {
     pruebas::Falsos falsos;
     Estado e;
+    controles::Contexto k{e.Sonido, e.Velocidad};
     std::unique_ptr<Cielo> cielo;
     Principal() {
         e.PanelCursor = true;
-        cielo = std::make_unique<Cielo>(e, pruebas::CatalogosDatos(), DialogosCielo{});
+        cielo = std::make_unique<Cielo>(e, k, pruebas::CatalogosDatos(), DialogosCielo{});
         cielo->show();
         cielo->ActualizaCielo();
     }

@@ -97,7 +97,8 @@ TEST(ObjetoBajo, CtrlClickOpensTheInformationAndThePlainClickStillCentres) {
         pedido = o;
         ++pedidos;
     };
-    Cielo cielo(e, pruebas::CatalogosDatos(), d);
+    controles::Contexto k{e.Sonido, e.Velocidad};
+    Cielo cielo(e, k, pruebas::CatalogosDatos(), d);
     cielo.show();
     cielo.ActualizaCielo();
     VistaCielo& v = cielo.Vista();

@@ -24,6 +24,7 @@ const Catalogos& Datos() { return pruebas::CatalogosDePrueba(); }
 struct Ventana {
     pruebas::Falsos falsos;
     Estado e;
+    controles::Contexto k{e.Sonido, e.Velocidad};
     std::unique_ptr<Cielo> cielo;
     Ventana() {
         pruebas::AseguraAplicacion();
@@ -33,7 +34,7 @@ struct Ventana {
         e.Elevacion = 0.5;
         e.Zoom = 3.0f;
         e.PanelCursor = true;
-        cielo = std::make_unique<Cielo>(e, Datos(), DialogosCielo{});
+        cielo = std::make_unique<Cielo>(e, k, Datos(), DialogosCielo{});
         cielo->show();
         cielo->ActualizaCielo();
     }

@@ -57,9 +57,9 @@ protected:
         d.Objetos = AbreObjetos;
         d.Animar = AbreAnimar;
         d.Mensaje = [this](QWidget* p, const std::string& t, const std::string& ti, int16_t b, int16_t i) {
-            return MuestraMensaje(e, p, t, ti, b, i);
+            return MuestraMensaje(e, k, p, t, ti, b, i);
         };
-        cielo = std::make_unique<Cielo>(e, Datos(), d);
+        cielo = std::make_unique<Cielo>(e, k, Datos(), d);
         cielo->show();
         cielo->ActualizaCielo();
     }
@@ -76,6 +76,7 @@ protected:
     pruebas::Falsos falsos;
     QTemporaryDir carpeta;
     Estado e;
+    controles::Contexto k{e.Sonido, e.Velocidad};
     std::unique_ptr<Cielo> cielo;
 };
 
@@ -157,7 +158,7 @@ TEST_F(Ventana, LasConfiguracionesDejanElCieloDibujadoYUnNombreMaloNoCambiaNada)
     Estado otro = e;
     otro.FechaJuliana = 2451545.0;
     otro.Direccion = 1.0;
-    MensajesVentana m(otro, nullptr);
+    MensajesVentana m(otro, k, nullptr);
     ASSERT_TRUE(EscribeConfiguracion(otro, "Prueba", m, false).escrito);
 
     e.Centrado = true;  // as a centring leaves it

@@ -120,13 +120,11 @@ struct Estado {
     bool CentrandoObjeto = false, Centrado = false;
     bool CorreccionLuna = false;  // one-shot extra time step of the next centring (the Moon's motion)
 
-    // Interface flags.
+    // Interface flags that the forms and the configuration share (the
+    // window keeps its own repeat, exit and pointer flags).
     bool Sonido = false, TiempoReal = false, AnimarTrasCambio = false;
     int16_t Velocidad = 50;
-    bool Sujecion = false, Enganche = false, SujecionSpin = false;
-    bool Cambiado = false, RedibujoPermitido = true, SalidaConfirmada = false;
-    int16_t CursorActual = 21;
-    int16_t ContadorTiempoReal = 0;
+    bool Cambiado = false;
     int16_t RespuestaMensaje = 0;  // 0 = Cancel
     int16_t BotonesMensaje = 1, IconoMensaje = 0, TemaMensaje = 0;  // of the last message shown
 

@@ -15,7 +15,7 @@
 
 namespace vedrano {
 
-DialogosCielo Dialogos(Estado& e) {
+DialogosCielo Dialogos(Estado& e, controles::Contexto& controles) {
     DialogosCielo d;
     d.CargaGuar = AbreCargaGuar;
     d.Personal = AbrePersonal;
@@ -25,11 +25,11 @@ DialogosCielo Dialogos(Estado& e) {
     d.Buscar = AbreBuscar;
     d.Impresor = AbreImpresor;
     d.Animar = AbreAnimar;
-    d.Ayuda = [&e](QWidget* padre, int tema) { MuestraAyuda(e, padre, tema); };
+    d.Ayuda = [&controles](QWidget* padre, int tema) { MuestraAyuda(controles, padre, tema); };
     d.TemaDe = TemaDeForma;
     d.Informacion = AbreInfoObjeto;
-    d.Mensaje = [&e](QWidget* padre, const std::string& texto, const std::string& titulo, int16_t botones,
-                     int16_t icono) { return MuestraMensaje(e, padre, texto, titulo, botones, icono); };
+    d.Mensaje = [&e, &controles](QWidget* padre, const std::string& texto, const std::string& titulo, int16_t botones,
+                     int16_t icono) { return MuestraMensaje(e, controles, padre, texto, titulo, botones, icono); };
     return d;
 }
 

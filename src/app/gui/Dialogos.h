@@ -6,7 +6,7 @@
 
 namespace vedrano {
 
-DialogosCielo Dialogos(Estado& e);
+DialogosCielo Dialogos(Estado& e, controles::Contexto& controles);
 
 // The help topic of one of the program's forms; 0 for any other window.
 int TemaDeForma(QWidget* forma);

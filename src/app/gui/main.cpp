@@ -76,6 +76,9 @@ int main(int argc, char** argv) {
     }
 
     Estado e;
+    // The drawn controls' pointer and hold flags, shared by the start-up's
+    // messages and the main window.
+    controles::Contexto controles{e.Sonido, e.Velocidad};
     Catalogos c;
     QPointer<QWidget> careta = MuestraCareta(e);
 
@@ -85,12 +88,12 @@ int main(int argc, char** argv) {
     e.Pref = LeePreferencias(e.ArchivoPreferencias);
 
     plataforma::PantallaQt pantalla;
-    MensajesVentana inicio(e, nullptr);
+    MensajesVentana inicio(e, controles, nullptr);
     if (!CompruebaPantalla(pantalla, inicio)) return 0;  // the user chose to leave
 
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    Cielo cielo(e, c, Dialogos(e));
-    app.avisa = [&](int numero) { MuestraMensaje(e, &cielo, "ERROR " + std::to_string(numero), "VEDRANO", 1, 1); };
+    Cielo cielo(e, controles, c, Dialogos(e, controles));
+    app.avisa = [&](int numero) { MuestraMensaje(e, controles, &cielo, "ERROR " + std::to_string(numero), "VEDRANO", 1, 1); };
     FijaAyudaMensajes([&cielo](int tema) { cielo.Contexto().Ayuda(tema); });
     cielo.show();
     app.processEvents();
@@ -118,7 +121,7 @@ int main(int argc, char** argv) {
         QThread::msleep(10);
     }
 
-    MuestraMensaje(e, &cielo,
+    MuestraMensaje(e, controles, &cielo,
                    A1252("Si   desea   consultar   una   descripción   general   de   este programa  para  conocer  "
                          "rápidamente  su  funcionamiento, pulse el botón de Ayuda."),
                    "VEDRANO 3.2", 1, 3, 1020);

@@ -28,7 +28,7 @@ QString PaginaAyuda(int t) {
     return QStringLiteral("qrc:/ayuda/%1.html").arg(QString::fromLatin1(it == paginas.end() ? "indice" : it->second));
 }
 
-VentanaAyuda::VentanaAyuda(Estado& e, QWidget* padre, int t)
+VentanaAyuda::VentanaAyuda(controles::Contexto& ctx, QWidget* padre, int t)
     : QDialog(padre, Qt::Dialog), visor_(new QTextBrowser) {
     setModal(false);
     setAccessibleName(QStringLiteral("Ayuda de VEDRANO"));
@@ -45,7 +45,7 @@ VentanaAyuda::VentanaAyuda(Estado& e, QWidget* padre, int t)
     visor_->setSource(QUrl(PaginaAyuda(t)));
     visor_->setMinimumSize(380, 300);
 
-    auto* salir = new BotonDialogo(e, BotonDialogo::Tipo::Salir, this);
+    auto* salir = new BotonDialogo(ctx, BotonDialogo::Tipo::Salir, this);
     salir->setToolTip(QStringLiteral(" Salir de la Ayuda "));
     connect(salir, &BotonDialogo::pulsado, this, &QDialog::close);
 
@@ -61,14 +61,14 @@ VentanaAyuda::VentanaAyuda(Estado& e, QWidget* padre, int t)
 
 void VentanaAyuda::muestraTema(int t) { visor_->setSource(QUrl(PaginaAyuda(t))); }
 
-VentanaAyuda* MuestraAyuda(Estado& e, QWidget* padre, int t) {
+VentanaAyuda* MuestraAyuda(controles::Contexto& ctx, QWidget* padre, int t) {
     static QPointer<VentanaAyuda> ventana;
     QPointer<QWidget> principal = padre ? padre->window() : nullptr;
     QWidget* modal = QApplication::activeModalWidget();
     QWidget* dueno = modal ? modal : principal.data();
     const bool nueva = !ventana;
     if (nueva) {
-        ventana = new VentanaAyuda(e, dueno, t);
+        ventana = new VentanaAyuda(ctx, dueno, t);
     } else {
         ventana->muestraTema(t);
         if (ventana->parentWidget() != dueno) {

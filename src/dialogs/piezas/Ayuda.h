@@ -6,11 +6,11 @@
 #include <QDialog>
 #include <QString>
 
+#include "ui/controles/Contexto.h"
+
 class QTextBrowser;
 
 namespace vedrano {
-
-struct Estado;
 
 // Topic numbers, as the help buttons and the message box pass them.
 namespace tema {
@@ -37,7 +37,7 @@ QString PaginaAyuda(int tema);
 class VentanaAyuda : public QDialog {
     Q_OBJECT
 public:
-    VentanaAyuda(Estado& e, QWidget* padre, int tema);
+    VentanaAyuda(controles::Contexto& ctx, QWidget* padre, int tema);
     QTextBrowser* visor() const { return visor_; }
     void muestraTema(int tema);
 
@@ -49,6 +49,6 @@ private:
 // main window), and returns at once. While a form is open the window
 // belongs to that form, the only one the user can reach then, and it comes
 // back to the main window when the form closes.
-VentanaAyuda* MuestraAyuda(Estado& e, QWidget* padre, int tema);
+VentanaAyuda* MuestraAyuda(controles::Contexto& ctx, QWidget* padre, int tema);
 
 }  // namespace vedrano

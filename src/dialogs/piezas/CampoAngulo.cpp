@@ -56,8 +56,8 @@ std::optional<double> LeeCampoAngulo(const std::string& cp1252, TipoAngulo tipo)
     return LeeAngulo(texto);
 }
 
-SpinAngulo::SpinAngulo(Estado& e, int indice, int caracteres, QWidget* padre)
-    : Spin(e, indice, padre), caracteres_(caracteres) {
+SpinAngulo::SpinAngulo(controles::Contexto& ctx, int indice, int caracteres, QWidget* padre)
+    : Spin(ctx, indice, padre), caracteres_(caracteres) {
     resize(sizeHint());
 }
 

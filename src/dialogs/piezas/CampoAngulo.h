@@ -26,7 +26,7 @@ std::optional<double> LeeCampoAngulo(const std::string& cp1252, TipoAngulo tipo)
 // A spin field wide enough for a sexagesimal text.
 class SpinAngulo : public controles::Spin {
 public:
-    SpinAngulo(Estado& e, int indice, int caracteres, QWidget* padre = nullptr);
+    SpinAngulo(controles::Contexto& ctx, int indice, int caracteres, QWidget* padre = nullptr);
     QSize sizeHint() const override;
 
 protected:

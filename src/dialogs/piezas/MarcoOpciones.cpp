@@ -46,8 +46,8 @@ void Rotulo::paintEvent(QPaintEvent*) {
     ImprimeEtiqueta(p, 0, 0, texto_);
 }
 
-Casilla::Casilla(Estado& e, const std::string& textoCp1252, QWidget* padre)
-    : ControlDibujado(e, 0, padre), texto_(Texto(textoCp1252).trimmed()) {
+Casilla::Casilla(controles::Contexto& ctx, const std::string& textoCp1252, QWidget* padre)
+    : ControlDibujado(ctx, 0, padre), texto_(Texto(textoCp1252).trimmed()) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     resize(sizeHint());
 }
@@ -89,8 +89,8 @@ MarcoOpciones::MarcoOpciones(ContextoDialogo& ctx, const std::string& tituloCp12
       ctx_(ctx),
       titulo_(Texto(tituloCp1252).trimmed()),
       principal_(new QVBoxLayout(this)),
-      salir_(new BotonDialogo(ctx.e, BotonDialogo::Tipo::Salir, this)),
-      ayuda_(new BotonDialogo(ctx.e, BotonDialogo::Tipo::Ayuda, this)) {
+      salir_(new BotonDialogo(ctx.controles, BotonDialogo::Tipo::Salir, this)),
+      ayuda_(new BotonDialogo(ctx.controles, BotonDialogo::Tipo::Ayuda, this)) {
     setModal(true);
     setWindowTitle(titulo_);
     setFont(FuenteControles());

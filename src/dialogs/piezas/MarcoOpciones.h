@@ -55,7 +55,7 @@ private:
 class Casilla : public controles::ControlDibujado {
     Q_OBJECT
 public:
-    Casilla(Estado& e, const std::string& textoCp1252, QWidget* padre = nullptr);
+    Casilla(controles::Contexto& ctx, const std::string& textoCp1252, QWidget* padre = nullptr);
     bool marcada() const { return marcada_; }
     void setMarcada(bool si);
     QString texto() const { return texto_; }

@@ -30,20 +30,21 @@ constexpr int MARGEN = 14, ALTO_TITULO = 24, LADO_ICONO = 32, ANCHO_TEXTO = 380,
 
 void FijaAyudaMensajes(std::function<void(int)> ayuda) { Ayuda() = std::move(ayuda); }
 
-int16_t MuestraMensaje(Estado& e, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
+int16_t MuestraMensaje(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
                        int16_t botones, int16_t icono, int16_t ayuda) {
     e.BotonesMensaje = botones;
     e.IconoMensaje = icono;
     e.TemaMensaje = ayuda;
-    Mensajes m(e, padre, textoCp1252, tituloCp1252, botones, icono, ayuda);
+    Mensajes m(e, controles, padre, textoCp1252, tituloCp1252, botones, icono, ayuda);
     m.exec();
     return e.RespuestaMensaje;
 }
 
-Mensajes::Mensajes(Estado& e, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
+Mensajes::Mensajes(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
                    int16_t botones, int16_t icono, int16_t ayuda)
     : QDialog(padre, Qt::Dialog | Qt::FramelessWindowHint),
       e_(e),
+      controles_(controles),
       texto_(Texto(textoCp1252).replace(QStringLiteral("\r\n"), QStringLiteral("\n"))),
       titulo_(Texto(tituloCp1252).trimmed()),
       botones_(botones),
@@ -68,13 +69,13 @@ Mensajes::Mensajes(Estado& e, QWidget* padre, const std::string& textoCp1252, co
     const int alto = filaBotones + 32 + MARGEN - 4;
     setFixedSize(ancho, alto);
 
-    aceptar_ = new Pulsador(e_, control::Aceptar, this);
+    aceptar_ = new Pulsador(controles_, control::Aceptar, this);
     aceptar_->setSonidoUnico(9);
     aceptar_->resize(ANCHO_BOTON, aceptar_->height());
     connect(aceptar_, &Pulsador::accionado, this, [this] { responde(-1); });
     const int yPulsador = filaBotones + (32 - aceptar_->height()) / 2;
     if (botones_ == 2) {
-        cancelar_ = new Pulsador(e_, control::Cancelar, this);
+        cancelar_ = new Pulsador(controles_, control::Cancelar, this);
         cancelar_->setSonidoUnico(9);
         cancelar_->resize(ANCHO_BOTON, cancelar_->height());
         connect(cancelar_, &Pulsador::accionado, this, [this] { responde(0); });
@@ -85,7 +86,7 @@ Mensajes::Mensajes(Estado& e, QWidget* padre, const std::string& textoCp1252, co
         aceptar_->move((ancho - ANCHO_BOTON) / 2, yPulsador);
     }
     if (tema_ != 0) {
-        ayuda_ = new BotonDialogo(e_, BotonDialogo::Tipo::Ayuda, this);
+        ayuda_ = new BotonDialogo(controles_, BotonDialogo::Tipo::Ayuda, this);
         ayuda_->move(ancho - MARGEN - 32, filaBotones);
         ayuda_->setToolTip(QStringLiteral(" Ayuda "));
         connect(ayuda_, &BotonDialogo::pulsado, this, [this] {

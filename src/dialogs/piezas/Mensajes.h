@@ -10,6 +10,7 @@
 #include <string>
 
 #include "app/estado/Estado.h"
+#include "ui/controles/Contexto.h"
 
 namespace vedrano {
 
@@ -18,11 +19,11 @@ class Pulsador;
 class BotonDialogo;
 }  // namespace controles
 
-// Shows the message and waits for the answer, which it leaves in
+// Shows the message (its buttons share `controles`) and waits for the answer, which it leaves in
 // e.RespuestaMensaje and returns: -1 accept, 0 cancel. Esc or closing the
 // box cancels a set-2 message and accepts a set-1 one. Text and title are
 // Windows-1252; CR LF breaks the lines.
-int16_t MuestraMensaje(Estado& e, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
+int16_t MuestraMensaje(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
                        int16_t botones, int16_t icono, int16_t ayuda = 0);
 
 // What the help button does with its topic (the program's help window).
@@ -31,7 +32,7 @@ void FijaAyudaMensajes(std::function<void(int)> ayuda);
 class Mensajes : public QDialog {
     Q_OBJECT
 public:
-    Mensajes(Estado& e, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
+    Mensajes(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
              int16_t botones, int16_t icono, int16_t ayuda);
 
     controles::Pulsador* botonAceptar() const { return aceptar_; }
@@ -52,6 +53,7 @@ private:
     void dibujaIcono(QPainter& p, QRect area) const;
 
     Estado& e_;
+    controles::Contexto& controles_;
     QString texto_, titulo_;
     int16_t botones_, icono_, tema_;
     QRect areaTexto_;

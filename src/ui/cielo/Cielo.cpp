@@ -56,12 +56,13 @@ QString Q(const std::string& cp1252) { return QString::fromUtf8(DesdeA1252(cp125
 
 }  // namespace
 
-Cielo::Cielo(Estado& e, const Catalogos& c, DialogosCielo dialogos)
+Cielo::Cielo(Estado& e, controles::Contexto& controles, const Catalogos& c, DialogosCielo dialogos)
     : e_(e),
+      controles_(controles),
       c_(c),
       dialogos_(std::move(dialogos)),
       mensajes_(dialogos_, this),
-      contexto_{e, c, mensajes_, this, {}, {}, {}, {}, {}, true} {
+      contexto_{e, controles_, ventana_, c, mensajes_, this, {}, {}, {}, {}, {}, true} {
     setWindowTitle("VEDRANO");
     setFont(controles::FuenteControles());
     contexto_.ActualizaCielo = [this] { ActualizaCielo(); };
@@ -86,7 +87,7 @@ Cielo::Cielo(Estado& e, const Catalogos& c, DialogosCielo dialogos)
     move(plataforma::PosicionCentrada(size(), nullptr));
 }
 
-Cielo::~Cielo() { e_.Sujecion = e_.Enganche = false; }
+Cielo::~Cielo() { ventana_.Sujecion = ventana_.Enganche = false; }
 
 void Cielo::Construye() {
     vista_ = new VistaCielo(e_, c_, mensajes_, this);
@@ -109,7 +110,7 @@ void Cielo::Construye() {
     panelBotones_ = new Panel(contenido, QColor(200, 82, 52), QColor(238, 136, 102), QColor(119, 26, 18));
     panelBotones_->setFixedSize(141, 300);
     for (int k = 1; k <= 9; ++k) {
-        auto* b = new BotonPanel(e_, k, QString::fromUtf8(BOTONES[k].ayuda), panelBotones_);
+        auto* b = new BotonPanel(controles_, k, QString::fromUtf8(BOTONES[k].ayuda), panelBotones_);
         b->move(BOTONES[k].izquierda, BOTONES[k].arriba);
         connect(b, &BotonPanel::soltado, this, &Cielo::BotonSoltado);
         // The tooltips keep their texts; the keys go to the screen reader.
@@ -120,23 +121,23 @@ void Cielo::Construye() {
 
     panelControl_ = new Panel(contenido);
     for (int i = 1; i <= 5; ++i) {
-        auto* s = new controles::SubBaj(e_, i, A1252(ROTULOS_SUBBAJ[i]), panelControl_);
+        auto* s = new controles::SubBaj(controles_, i, A1252(ROTULOS_SUBBAJ[i]), panelControl_);
         s->move(3, 5 + 35 * (i - 1));
         s->resize(135, s->height());
         s->dibuja(-1);
         connect(s, &controles::SubBaj::pulsado, this, [this, i](int x) { SubBajPresionado(i, x); });
         connect(s, &controles::SubBaj::movido, this, [this, i](int, int, bool dentro) { SubBajMovido(i, dentro); });
         connect(s, &controles::SubBaj::soltado, this, [this] {
-            if (!e_.Enganche) e_.Sujecion = false;
+            if (!ventana_.Enganche) ventana_.Sujecion = false;
         });
         connect(s, &controles::SubBaj::tecla, this, [this, i](int signo) { PasoTecla(i, signo); });
         s->setToolTip(QString::fromUtf8(TECLAS_SUBBAJ[i]));
         subbaj_[static_cast<std::size_t>(i)] = s;
     }
-    pulsador44_ = new controles::Pulsador(e_, control::Animacion, panelControl_);
+    pulsador44_ = new controles::Pulsador(controles_, control::Animacion, panelControl_);
     pulsador44_->setGeometry(3, 180, 135, 23);
     connect(pulsador44_, &controles::Pulsador::accionado, this, [this] { PulsadorAccionado(control::Animacion); });
-    pulsador45_ = new controles::Pulsador(e_, control::Restaurar, panelControl_);
+    pulsador45_ = new controles::Pulsador(controles_, control::Restaurar, panelControl_);
     pulsador45_->setGeometry(3, 207, 135, 23);
     connect(pulsador45_, &controles::Pulsador::accionado, this, [this] { PulsadorAccionado(control::Restaurar); });
     pulsador45_->hide();
@@ -223,7 +224,7 @@ void Cielo::RefrescaCampos() {
     subbaj_[2]->setValor(eleva_->Texto().trimmed());
     subbaj_[3]->setValor(zoom_->Texto().trimmed());
     subbaj_[4]->setValor(fecLoc_->Texto().trimmed() + " " + horLoc_->Texto().trimmed());
-    subbaj_[5]->setValor(e_.Enganche ? QStringLiteral("en marcha") : QStringLiteral("parada"));
+    subbaj_[5]->setValor(ventana_.Enganche ? QStringLiteral("en marcha") : QStringLiteral("parada"));
 }
 
 void Cielo::Abre(const std::function<void(ContextoDialogo&)>& abre, bool cargaConfiguraciones) {
@@ -246,9 +247,9 @@ void Cielo::Abre(const std::function<void(ContextoDialogo&)>& abre, bool cargaCo
 }
 
 void Cielo::BotonSoltado(int k) {
-    controles::Suena(e_, 0, 9);
-    e_.Sujecion = false;
-    e_.Enganche = false;
+    controles::Suena(controles_, 0, 9);
+    ventana_.Sujecion = false;
+    ventana_.Enganche = false;
     switch (k) {
         case 1: Abre(dialogos_.CargaGuar, true); break;
         case 2: Abre(dialogos_.Personal); break;
@@ -264,7 +265,7 @@ void Cielo::BotonSoltado(int k) {
                                         "Para volver al programa pulse el Botón Cancelar."),
                                   "Salir de VEDRANO", 2, 2);
             if (respuesta != 0) {
-                cerrando_ = true;
+                ventana_.SalidaConfirmada = true;
                 close();
                 QApplication::quit();
             }
@@ -276,8 +277,8 @@ void Cielo::BotonSoltado(int k) {
 
 void Cielo::PulsadorAccionado(int k) {
     if (k == control::Animacion) {
-        e_.Sujecion = false;
-        e_.Enganche = false;
+        ventana_.Sujecion = false;
+        ventana_.Enganche = false;
         Abre(dialogos_.Animar);
         return;
     }
@@ -338,7 +339,7 @@ void Cielo::Atajos() {
 
 void Cielo::InformaObjeto(const ObjetoSenalado& objeto) {
     if (objeto.clase == ClaseObjeto::Ninguno || !dialogos_.Informacion) return;
-    e_.Sujecion = e_.Enganche = false;  // as every form does, it stops the animation
+    ventana_.Sujecion = ventana_.Enganche = false;  // as every form does, it stops the animation
     dialogos_.Informacion(contexto_, objeto);
 }
 
@@ -372,8 +373,8 @@ bool Cielo::eventFilter(QObject* objeto, QEvent* ev) {
 
 void Cielo::closeEvent(QCloseEvent* ev) {
     // Closing the window asks as the exit button does.
-    if (cerrando_) {
-        e_.Sujecion = e_.Enganche = false;
+    if (ventana_.SalidaConfirmada) {
+        ventana_.Sujecion = ventana_.Enganche = false;
         ev->accept();
         return;
     }

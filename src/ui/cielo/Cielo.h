@@ -12,7 +12,9 @@
 #include "app/estado/Estado.h"
 #include "catalogue/Catalogos.h"
 #include "app/base/InterfazMensajes.h"
+#include "ui/controles/Contexto.h"
 #include "ui/formas/ContextoDialogo.h"
+#include "ui/formas/EstadoVentana.h"
 #include "sky/apunta/ObjetoBajo.h"
 
 class QScrollArea;
@@ -58,7 +60,9 @@ private:
 class Cielo : public QWidget {
     Q_OBJECT
 public:
-    Cielo(Estado& e, const Catalogos& c, DialogosCielo dialogos);
+    // `controles` is the drawn controls' context, shared with the message
+    // box that the start-up shows before the window.
+    Cielo(Estado& e, controles::Contexto& controles, const Catalogos& c, DialogosCielo dialogos);
     ~Cielo() override;
 
     VistaCielo& Vista() { return *vista_; }
@@ -113,6 +117,8 @@ private:
     void Atajos();
 
     Estado& e_;
+    controles::Contexto& controles_;
+    EstadoVentana ventana_;
     const Catalogos& c_;
     DialogosCielo dialogos_;
     MensajesCielo mensajes_;
@@ -131,7 +137,6 @@ private:
     CampoInfo *aRecta_ = nullptr, *dec_ = nullptr, *altitud_ = nullptr, *azimut_ = nullptr;
     CampoInfo* tiempoReal_ = nullptr;
     QTimer reloj_;
-    bool cerrando_ = false;
 };
 
 }  // namespace vedrano

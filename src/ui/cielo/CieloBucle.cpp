@@ -24,16 +24,16 @@ constexpr double PASO_GRADO = DOS_PI / 360;
 void Cielo::SubBajMovido(int i, bool enBanda) {
     controles::SubBaj* s = subbaj_[static_cast<std::size_t>(i)];
     if (enBanda) {
-        if (e_.CursorActual != cursor::ManoIndice) controles::FijaCursor(e_, s, cursor::ManoIndice);
+        if (controles_.CursorActual != cursor::ManoIndice) controles::FijaCursor(controles_, s, cursor::ManoIndice);
         return;
     }
-    if (e_.CursorActual != cursor::Normal) controles::FijaCursor(e_, s, cursor::Normal);
-    if (!e_.Enganche) e_.Sujecion = false;
+    if (controles_.CursorActual != cursor::Normal) controles::FijaCursor(controles_, s, cursor::Normal);
+    if (!ventana_.Enganche) ventana_.Sujecion = false;
 }
 
 void Cielo::SubBajPresionado(int i, int x) {
     // Only a press inside the arrows' band counts.
-    if (e_.CursorActual != cursor::ManoIndice) return;
+    if (controles_.CursorActual != cursor::ManoIndice) return;
     if (RechazaTiempoReal(i)) return;
     SubBajHaPulsado(i, x);
 }
@@ -58,7 +58,7 @@ void Cielo::PasoTecla(int i, int signo) {
     if (i == 4 && ((signo < 0 && e_.PasoDias > 0) || (signo > 0 && e_.PasoDias < 0))) e_.PasoDias = -e_.PasoDias;
     controles::SubBaj* s = subbaj_[static_cast<std::size_t>(i)];
     s->dibuja(signo < 0 ? 1 : 0);
-    controles::Suena(e_, 1, 4);
+    controles::Suena(controles_, 1, 4);
     PasoVista(i, signo);
     s->dibuja(-1);
     if (i == 3) RecalculaCuerpos();
@@ -92,8 +92,8 @@ void Cielo::PasoVista(int i, int signo) {
             AvanzaTiempo(e_, c_.TablaPlanetas);
             break;
         case 5:
-            controles::Espera(e_, 60);
-            e_.Enganche = true;
+            controles::Espera(controles_, 60);
+            ventana_.Enganche = true;
             AvanzaTiempo(e_, c_.TablaPlanetas);
             vista_->DibujaCielo();
             break;
@@ -105,25 +105,25 @@ void Cielo::PasoVista(int i, int signo) {
 void Cielo::SubBajHaPulsado(int i, int x) {
     if (i == 5) {
         // A second press on the animation arrows stops a running animation.
-        e_.Sujecion = !e_.Sujecion;
-        e_.Enganche = e_.Sujecion;
-        controles::Suena(e_, 1, 4);
+        ventana_.Sujecion = !ventana_.Sujecion;
+        ventana_.Enganche = ventana_.Sujecion;
+        controles::Suena(controles_, 1, 4);
     } else {
-        e_.Sujecion = true;
-        e_.Enganche = false;
+        ventana_.Sujecion = true;
+        ventana_.Enganche = false;
     }
     const int lado = x < 33 ? 1 : 0;
     const int signo = lado == 1 ? -1 : 1;
     if ((i == 4 || i == 5) && ((lado == 1 && e_.PasoDias > 0) || (lado == 0 && e_.PasoDias < 0)))
         e_.PasoDias = -e_.PasoDias;
     controles::SubBaj* s = subbaj_[static_cast<std::size_t>(i)];
-    while (e_.Sujecion) {
+    while (ventana_.Sujecion) {
         s->dibuja(lado);
-        if (!e_.Enganche) controles::Suena(e_, 1, 4);
-        controles::Espera(e_, 40);
+        if (!ventana_.Enganche) controles::Suena(controles_, 1, 4);
+        controles::Espera(controles_, 40);
         PasoVista(i, signo);
         s->dibuja(-1);
-        controles::Espera(e_, 40);
+        controles::Espera(controles_, 40);
         controles::AtiendeEventos();
     }
     if (i == 3) RecalculaCuerpos();
@@ -135,20 +135,20 @@ void Cielo::RecalculaCuerpos() {
 }
 
 void Cielo::TicTiempoReal() {
-    ++e_.ContadorTiempoReal;
+    ++ventana_.ContadorTiempoReal;
     tiempoReal_->FijaTexto(tiempoReal_->Texto().isEmpty() ? QStringLiteral("Animando tiempo real") : QString());
-    if (e_.ContadorTiempoReal >= 60) {
-        e_.RedibujoPermitido = false;
+    if (ventana_.ContadorTiempoReal >= 60) {
+        ventana_.RedibujoPermitido = false;
         FijaFechaJuliana(e_, c_.TablaPlanetas, e_.FechaJuliana + 1.0 / 1440.0);
-        e_.RedibujoPermitido = true;
+        ventana_.RedibujoPermitido = true;
         vista_->ActualizaCielo();
-        e_.ContadorTiempoReal = 0;
+        ventana_.ContadorTiempoReal = 0;
     }
 }
 
 void Cielo::ArrancaTiempoReal() {
     tiempoReal_->FijaTexto(QString());
-    e_.ContadorTiempoReal = 0;
+    ventana_.ContadorTiempoReal = 0;
     reloj_.start();
 }
 

@@ -55,8 +55,8 @@ void CampoInfo::keyPressEvent(QKeyEvent* ev) {
     QWidget::keyPressEvent(ev);
 }
 
-BotonPanel::BotonPanel(Estado& e, int indice, const QString& ayuda, QWidget* padre)
-    : QWidget(padre), e_(e), indice_(indice), suelto_(IconoBoton(indice, false)), hundido_(IconoBoton(indice, true)) {
+BotonPanel::BotonPanel(controles::Contexto& ctx, int indice, const QString& ayuda, QWidget* padre)
+    : QWidget(padre), ctx_(ctx), indice_(indice), suelto_(IconoBoton(indice, false)), hundido_(IconoBoton(indice, true)) {
     setFixedSize(48, 48);
     setToolTip(ayuda);
     setFocusPolicy(Qt::TabFocus);
@@ -74,7 +74,7 @@ void BotonPanel::keyPressEvent(QKeyEvent* ev) {
     // Shown pressed for a moment, as under the mouse.
     pulsado_ = true;
     repaint();
-    controles::Espera(e_, 80);
+    controles::Espera(ctx_, 80);
     pulsado_ = false;
     repaint();
     emit soltado(indice_);
@@ -93,14 +93,14 @@ void BotonPanel::mouseReleaseEvent(QMouseEvent* ev) {
     if (rect().contains(ev->position().toPoint())) emit soltado(indice_);
 }
 
-void BotonPanel::enterEvent(QEnterEvent*) { controles::FijaCursor(e_, this, cursor::ManoIndice); }
+void BotonPanel::enterEvent(QEnterEvent*) { controles::FijaCursor(ctx_, this, cursor::ManoIndice); }
 
 void BotonPanel::leaveEvent(QEvent*) {
     if (pulsado_) {
         pulsado_ = false;
         update();
     }
-    controles::FijaCursor(e_, this, cursor::Normal);
+    controles::FijaCursor(ctx_, this, cursor::Normal);
 }
 
 }  // namespace vedrano

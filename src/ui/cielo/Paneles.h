@@ -7,8 +7,8 @@
 #include <QString>
 #include <QWidget>
 
-#include "app/estado/Estado.h"
 #include "ui/controles/Accesible.h"
+#include "ui/controles/Contexto.h"
 
 namespace vedrano {
 
@@ -57,7 +57,7 @@ private:
 class BotonPanel : public QWidget, public controles::Accesible {
     Q_OBJECT
 public:
-    BotonPanel(Estado& e, int indice, const QString& ayuda, QWidget* padre);
+    BotonPanel(controles::Contexto& ctx, int indice, const QString& ayuda, QWidget* padre);
     int indice() const { return indice_; }
     QAccessible::Role rolAccesible() const override { return QAccessible::Button; }
     QString nombreAccesible() const override { return toolTip().trimmed(); }
@@ -76,7 +76,7 @@ protected:
     void focusOutEvent(QFocusEvent*) override { update(); }
 
 private:
-    Estado& e_;
+    controles::Contexto& ctx_;
     int indice_;
     bool pulsado_ = false;
     QPixmap suelto_, hundido_;

@@ -7,8 +7,8 @@
 
 namespace vedrano::controles {
 
-BotonDialogo::BotonDialogo(Estado& e, Tipo tipo, QWidget* padre)
-    : ControlDibujado(e, 0, padre), tipo_(tipo) {
+BotonDialogo::BotonDialogo(Contexto& ctx, Tipo tipo, QWidget* padre)
+    : ControlDibujado(ctx, 0, padre), tipo_(tipo) {
     setFixedSize(32, 32);
 }
 
@@ -32,7 +32,7 @@ void BotonDialogo::mouseReleaseEvent(QMouseEvent* ev) {
     abajo_ = false;
     repaint();
     if (!rect().contains(ev->position().toPoint())) return;
-    if (tipo_ != Tipo::Ayuda) Suena(e_, 0, 9);
+    if (tipo_ != Tipo::Ayuda) Suena(ctx_, 0, 9);
     emit pulsado();
 }
 
@@ -44,10 +44,10 @@ void BotonDialogo::keyPressEvent(QKeyEvent* ev) {
 void BotonDialogo::acciona() {
     abajo_ = true;
     repaint();
-    Espera(e_, 80);
+    Espera(ctx_, 80);
     abajo_ = false;
     repaint();
-    if (tipo_ != Tipo::Ayuda) Suena(e_, 0, 9);
+    if (tipo_ != Tipo::Ayuda) Suena(ctx_, 0, 9);
     emit pulsado();
 }
 

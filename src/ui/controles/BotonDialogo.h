@@ -10,7 +10,7 @@ class BotonDialogo : public ControlDibujado {
     Q_OBJECT
 public:
     enum class Tipo { Salir = 0, Ayuda = 1, Aceptar = 2 };
-    BotonDialogo(Estado& e, Tipo tipo, QWidget* padre = nullptr);
+    BotonDialogo(Contexto& ctx, Tipo tipo, QWidget* padre = nullptr);
     Tipo tipo() const { return tipo_; }
     QSize sizeHint() const override { return {32, 32}; }
     QString nombreAccesible() const override;

@@ -12,22 +12,22 @@
 
 namespace vedrano::controles {
 
-void FijaCursor(Estado& e, QWidget* w, int16_t numero) {
+void FijaCursor(Contexto& ctx, QWidget* w, int16_t numero) {
     if (numero == cursor::Normal)
         w->unsetCursor();
     else
         w->setCursor(plataforma::CursorNumero(numero));
-    e.CursorActual = numero;
+    ctx.CursorActual = numero;
 }
 
-void Suena(const Estado& e, int modo, int numero) { plataforma::TocaSonido(e.Sonido, modo, numero); }
+void Suena(const Contexto& ctx, int modo, int numero) { plataforma::TocaSonido(ctx.Sonido, modo, numero); }
 
-void Espera(const Estado& e, double milisegundos) { plataforma::Retardo(e.Velocidad, milisegundos); }
+void Espera(const Contexto& ctx, double milisegundos) { plataforma::Retardo(ctx.Velocidad, milisegundos); }
 
 void AtiendeEventos() { QCoreApplication::processEvents(QEventLoop::AllEvents); }
 
-ControlDibujado::ControlDibujado(Estado& e, int indice, QWidget* padre)
-    : QWidget(padre), e_(e), indice_(indice) {
+ControlDibujado::ControlDibujado(Contexto& ctx, int indice, QWidget* padre)
+    : QWidget(padre), ctx_(ctx), indice_(indice) {
     setFont(FuenteControles());
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -54,7 +54,7 @@ QString ControlDibujado::etiqueta() const {
 }
 
 void ControlDibujado::cambiaCursor(int16_t numero) {
-    if (e_.CursorActual != numero) fijaCursor(numero);
+    if (ctx_.CursorActual != numero) fijaCursor(numero);
 }
 
 }  // namespace vedrano::controles

@@ -1,5 +1,6 @@
-// The base of every custom-drawn control: it knows the application state
-// (for the flags, the sound option and the current cursor) and its index
+// The base of every custom-drawn control: it knows the controls' context
+// (the current cursor, the spin hold flag, the sound option and the speed
+// setting) and its index
 // in its control array, which keys the label and value tables. Each kind
 // paints itself completely from the control bitmap in `pinta`. A control
 // takes the keyboard focus with Tab (a click leaves the focus where it
@@ -9,8 +10,8 @@
 #include <QWidget>
 #include <cstdint>
 
-#include "app/estado/Estado.h"
 #include "ui/controles/Accesible.h"
+#include "ui/controles/Contexto.h"
 
 class QPainter;
 
@@ -18,14 +19,14 @@ namespace vedrano::controles {
 
 // Sets pointer `numero` (21..25 the program's own, below 20 the standard
 // ones, 0 the default) on `w` and records it as the current cursor.
-void FijaCursor(Estado& e, QWidget* w, int16_t numero);
+void FijaCursor(Contexto& ctx, QWidget* w, int16_t numero);
 
 // Plays click sound `numero` if the sound option is on (mode 1 does not
 // wait for it).
-void Suena(const Estado& e, int modo, int numero);
+void Suena(const Contexto& ctx, int modo, int numero);
 
 // Waits `milisegundos` scaled by the speed setting; no event runs.
-void Espera(const Estado& e, double milisegundos);
+void Espera(const Contexto& ctx, double milisegundos);
 
 // Lets the pending window events run, once per step of a repeat loop.
 void AtiendeEventos();
@@ -33,7 +34,7 @@ void AtiendeEventos();
 class ControlDibujado : public QWidget, public Accesible {
     Q_OBJECT
 public:
-    ControlDibujado(Estado& e, int indice, QWidget* padre);
+    ControlDibujado(Contexto& ctx, int indice, QWidget* padre);
     int indice() const { return indice_; }
     QAccessible::Role rolAccesible() const override { return QAccessible::Button; }
     QString nombreAccesible() const override;
@@ -47,11 +48,11 @@ protected:
     virtual void pinta(QPainter& p) = 0;
     // The label of this control: its own, or else the label table's entry.
     QString etiqueta() const;
-    void fijaCursor(int16_t numero) { FijaCursor(e_, this, numero); }
+    void fijaCursor(int16_t numero) { FijaCursor(ctx_, this, numero); }
     // Sets `numero` only when another pointer is the current one.
     void cambiaCursor(int16_t numero);
 
-    Estado& e_;
+    Contexto& ctx_;
     const int indice_;
     QString rotulo_;  // for controls beyond the label table (program preferences)
 };

@@ -8,12 +8,12 @@
 
 namespace vedrano::controles {
 
-Interruptor::Interruptor(Estado& e, int indice, QWidget* padre) : ControlDibujado(e, indice, padre) {
+Interruptor::Interruptor(Contexto& ctx, int indice, QWidget* padre) : ControlDibujado(ctx, indice, padre) {
     etiqueta();  // an index outside the table fails here, not at the first paint
     resize(sizeHint());
 }
 
-Interruptor::Interruptor(Estado& e, const QString& rotulo, QWidget* padre) : ControlDibujado(e, -1, padre) {
+Interruptor::Interruptor(Contexto& ctx, const QString& rotulo, QWidget* padre) : ControlDibujado(ctx, -1, padre) {
     rotulo_ = rotulo;
     resize(sizeHint());
 }

@@ -9,9 +9,9 @@ class Interruptor : public ControlDibujado {
     Q_OBJECT
 public:
     // The label is entry `indice` of the label table.
-    Interruptor(Estado& e, int indice, QWidget* padre = nullptr);
+    Interruptor(Contexto& ctx, int indice, QWidget* padre = nullptr);
     // A switch of a program preference, which the label table has no entry for.
-    Interruptor(Estado& e, const QString& rotulo, QWidget* padre = nullptr);
+    Interruptor(Contexto& ctx, const QString& rotulo, QWidget* padre = nullptr);
     bool encendido() const { return encendido_; }
     void setEncendido(bool si);
     QSize sizeHint() const override;

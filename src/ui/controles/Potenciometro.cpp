@@ -13,7 +13,7 @@ namespace {
 constexpr int PISTA_X = 5, PISTA_Y = 15, MANDO_Y = 17, MANDO_ANCHO = 13;
 }
 
-Potenciometro::Potenciometro(Estado& e, int indice, QWidget* padre) : ControlDibujado(e, indice, padre) {
+Potenciometro::Potenciometro(Contexto& ctx, int indice, QWidget* padre) : ControlDibujado(ctx, indice, padre) {
     etiqueta();
     resize(sizeHint());
 }
@@ -61,7 +61,7 @@ void Potenciometro::mousePressEvent(QMouseEvent* ev) {
 
 void Potenciometro::mouseMoveEvent(QMouseEvent* ev) {
     const QPoint p = ev->position().toPoint();
-    if (e_.CursorActual == cursor::ManoCerrada) {
+    if (ctx_.CursorActual == cursor::ManoCerrada) {
         mueve(posicionInicial_ + p.x() - xInicial_);
         return;
     }
@@ -81,7 +81,7 @@ void Potenciometro::keyPressEvent(QKeyEvent* ev) {
 }
 
 void Potenciometro::mouseReleaseEvent(QMouseEvent* ev) {
-    if (e_.CursorActual == cursor::ManoCerrada)
+    if (ctx_.CursorActual == cursor::ManoCerrada)
         fijaCursor(mando().contains(ev->position().toPoint()) ? cursor::ManoAbierta : cursor::Normal);
 }
 

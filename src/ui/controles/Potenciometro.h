@@ -10,7 +10,7 @@ namespace vedrano::controles {
 class Potenciometro : public ControlDibujado {
     Q_OBJECT
 public:
-    Potenciometro(Estado& e, int indice, QWidget* padre = nullptr);
+    Potenciometro(Contexto& ctx, int indice, QWidget* padre = nullptr);
     int posicion() const { return posicion_; }
     void setPosicion(int posicion);
     QSize sizeHint() const override { return {131, 42}; }

@@ -9,13 +9,13 @@
 
 namespace vedrano::controles {
 
-Pulsador::Pulsador(Estado& e, int indice, QWidget* padre) : ControlDibujado(e, indice, padre) {
+Pulsador::Pulsador(Contexto& ctx, int indice, QWidget* padre) : ControlDibujado(ctx, indice, padre) {
     etiqueta();
     resize(sizeHint());
 }
 
-Pulsador::Pulsador(Estado& e, const QString& rotulo, QWidget* padre)
-    : ControlDibujado(e, 0, padre), rotulo_(rotulo) {
+Pulsador::Pulsador(Contexto& ctx, const QString& rotulo, QWidget* padre)
+    : ControlDibujado(ctx, 0, padre), rotulo_(rotulo) {
     resize(sizeHint());
 }
 
@@ -26,8 +26,8 @@ QSize Pulsador::sizeHint() const {
 void Pulsador::dibuja(bool pulsado, bool conSonido) {
     pulsado_ = pulsado;
     repaint();
-    if (conSonido && sonidoUnico_ == 0) Suena(e_, 0, pulsado ? 6 : 7);
-    if (pulsado) Espera(e_, 210);
+    if (conSonido && sonidoUnico_ == 0) Suena(ctx_, 0, pulsado ? 6 : 7);
+    if (pulsado) Espera(ctx_, 210);
 }
 
 void Pulsador::pinta(QPainter& p) {
@@ -53,7 +53,7 @@ void Pulsador::pulsa() {
     QPointer<Pulsador> vivo(this);
     dibuja(true, true);
     dibuja(false, true);
-    if (sonidoUnico_ != 0) Suena(e_, 0, sonidoUnico_);
+    if (sonidoUnico_ != 0) Suena(ctx_, 0, sonidoUnico_);
     if (vivo) emit accionado();
 }
 

@@ -14,9 +14,9 @@ class Pulsador : public ControlDibujado {
     Q_OBJECT
 public:
     // The label is entry `indice` of the label table.
-    Pulsador(Estado& e, int indice, QWidget* padre = nullptr);
+    Pulsador(Contexto& ctx, int indice, QWidget* padre = nullptr);
     // A button of the same look whose label is not in the table.
-    Pulsador(Estado& e, const QString& rotulo, QWidget* padre = nullptr);
+    Pulsador(Contexto& ctx, const QString& rotulo, QWidget* padre = nullptr);
 
     // Draws the face pressed or released; with sound, 6 going down (then
     // the pause) and 7 coming up.

@@ -13,8 +13,8 @@ namespace {
 constexpr int MARGEN = 6, ARRIBA_CARA = 16;
 }
 
-Selector::Selector(Estado& e, int indice, std::vector<std::string> opciones, QWidget* padre)
-    : ControlDibujado(e, indice, padre), opciones_(std::move(opciones)) {
+Selector::Selector(Contexto& ctx, int indice, std::vector<std::string> opciones, QWidget* padre)
+    : ControlDibujado(ctx, indice, padre), opciones_(std::move(opciones)) {
     etiqueta();
     if (opciones_.empty()) throw ErrorEjecucion(ErrSubindice);
     resize(sizeHint());
@@ -64,7 +64,7 @@ void Selector::keyPressEvent(QKeyEvent* ev) {
 void Selector::avanza(int sentido) {
     const int n = static_cast<int>(opciones_.size());
     eleccion_ = sentido > 0 ? eleccion_ % n + 1 : (eleccion_ + n - 2) % n + 1;
-    Suena(e_, 1, 6);
+    Suena(ctx_, 1, 6);
     repaint();
     AvisaValor(this);
     emit eleccionCambiada(eleccion_);

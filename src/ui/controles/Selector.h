@@ -13,7 +13,7 @@ class Selector : public ControlDibujado {
     Q_OBJECT
 public:
     // `opciones` in Windows-1252; the choice is numbered from 1.
-    Selector(Estado& e, int indice, std::vector<std::string> opciones, QWidget* padre = nullptr);
+    Selector(Contexto& ctx, int indice, std::vector<std::string> opciones, QWidget* padre = nullptr);
     int eleccion() const { return eleccion_; }
     // Out-of-range choices are taken as the first.
     void setEleccion(int eleccion);

@@ -30,7 +30,7 @@ std::optional<float> LeeNumero(const std::string& texto) {
 
 }  // namespace
 
-Spin::Spin(Estado& e, int indice, QWidget* padre) : ControlDibujado(e, indice, padre), campo_(new QLineEdit(this)) {
+Spin::Spin(Contexto& ctx, int indice, QWidget* padre) : ControlDibujado(ctx, indice, padre), campo_(new QLineEdit(this)) {
     etiqueta();
     FormatoIndice(indice);  // both tables must hold the index
     EstiloCampo(campo_);
@@ -78,14 +78,14 @@ void Spin::mouseMoveEvent(QMouseEvent* ev) {
         cambiaCursor(21);
     } else {
         cambiaCursor(0);
-        e_.SujecionSpin = false;
+        ctx_.SujecionSpin = false;
     }
 }
 
-void Spin::mouseReleaseEvent(QMouseEvent*) { e_.SujecionSpin = false; }
+void Spin::mouseReleaseEvent(QMouseEvent*) { ctx_.SujecionSpin = false; }
 
 void Spin::mousePressEvent(QMouseEvent* ev) {
-    if (ev->button() != Qt::LeftButton || e_.CursorActual != cursor::ManoIndice) return;
+    if (ev->button() != Qt::LeftButton || ctx_.CursorActual != cursor::ManoIndice) return;
     repite(ev->position().y() <= height() / 2);
 }
 
@@ -105,8 +105,8 @@ bool Spin::avanza(bool subir) {
     }
     muestra();
     emit paso(valor_);
-    Suena(e_, 1, 4);
-    Espera(e_, 40);
+    Suena(ctx_, 1, 4);
+    Espera(ctx_, 40);
     encendida_ = 0;
     repaint();
     return true;
@@ -114,9 +114,9 @@ bool Spin::avanza(bool subir) {
 
 void Spin::repite(bool subir) {
     QPointer<Spin> vivo(this);
-    e_.SujecionSpin = true;
-    while (e_.SujecionSpin && avanza(subir)) {
-        Espera(e_, 40);
+    ctx_.SujecionSpin = true;
+    while (ctx_.SujecionSpin && avanza(subir)) {
+        Espera(ctx_, 40);
         AtiendeEventos();  // the mouse-up that ends the repeat arrives here
         if (!vivo) return;
     }

@@ -2,7 +2,7 @@
 // value's text field and the up and down keys. Holding a key repeats the
 // step (limits, step, picture and wrap from value record `indice`) until
 // the mouse is released or leaves the keys (the spin hold flag of the
-// state); when the repeat ends the value goes to the store callback.
+// controls' context); when the repeat ends the value goes to the store callback.
 #pragma once
 #include <functional>
 #include <optional>
@@ -18,7 +18,7 @@ class Spin : public ControlDibujado {
     Q_OBJECT
 public:
     // Label `indice` of the label table, value record `indice`.
-    Spin(Estado& e, int indice, QWidget* padre = nullptr);
+    Spin(Contexto& ctx, int indice, QWidget* padre = nullptr);
 
     float valor() const { return valor_; }
     // Shows `v` without storing it.

@@ -8,8 +8,8 @@
 
 namespace vedrano::controles {
 
-SubBaj::SubBaj(Estado& e, int indice, std::string rotulo, QWidget* padre)
-    : ControlDibujado(e, indice, padre), rotulo_(std::move(rotulo)) {
+SubBaj::SubBaj(Contexto& ctx, int indice, std::string rotulo, QWidget* padre)
+    : ControlDibujado(ctx, indice, padre), rotulo_(std::move(rotulo)) {
     resize(sizeHint());
 }
 

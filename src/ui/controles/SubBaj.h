@@ -14,7 +14,7 @@ class SubBaj : public ControlDibujado {
     Q_OBJECT
 public:
     // `rotulo` in Windows-1252 ("Dirección", ...).
-    SubBaj(Estado& e, int indice, std::string rotulo, QWidget* padre = nullptr);
+    SubBaj(Contexto& ctx, int indice, std::string rotulo, QWidget* padre = nullptr);
     // 1 the left arrow lit, 0 the right one, anything else neither.
     void dibuja(int estado);
     int estadoDibujado() const { return estado_; }

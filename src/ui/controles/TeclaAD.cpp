@@ -10,8 +10,8 @@
 
 namespace vedrano::controles {
 
-TeclaAD::TeclaAD(Estado& e, int indice, std::string etiqueta, QWidget* padre)
-    : ControlDibujado(e, indice, padre), texto_(std::move(etiqueta)) {
+TeclaAD::TeclaAD(Contexto& ctx, int indice, std::string etiqueta, QWidget* padre)
+    : ControlDibujado(ctx, indice, padre), texto_(std::move(etiqueta)) {
     resize(sizeHint());
 }
 
@@ -36,34 +36,34 @@ void TeclaAD::mouseMoveEvent(QMouseEvent* ev) {
         cambiaCursor(21);
     } else {
         cambiaCursor(0);
-        e_.SujecionSpin = false;
+        ctx_.SujecionSpin = false;
     }
 }
 
-void TeclaAD::mouseReleaseEvent(QMouseEvent*) { e_.SujecionSpin = false; }
+void TeclaAD::mouseReleaseEvent(QMouseEvent*) { ctx_.SujecionSpin = false; }
 
 void TeclaAD::keyPressEvent(QKeyEvent* ev) {
     const int sentido = ev->key() == Qt::Key_Up ? 1 : ev->key() == Qt::Key_Down ? -1 : 0;
     if (sentido == 0) return ControlDibujado::keyPressEvent(ev);
     QPointer<TeclaAD> vivo(this);
     emit pulsada(sentido);
-    Suena(e_, 1, 4);
+    Suena(ctx_, 1, 4);
     if (paso_) paso_(sentido);
     if (vivo) emit soltada();
 }
 
 void TeclaAD::mousePressEvent(QMouseEvent* ev) {
-    if (ev->button() != Qt::LeftButton || e_.CursorActual != cursor::ManoIndice) return;
+    if (ev->button() != Qt::LeftButton || ctx_.CursorActual != cursor::ManoIndice) return;
     const int sentido = ev->position().y() <= origenFlechas().y() + 10 ? 1 : -1;
     QPointer<TeclaAD> vivo(this);
-    e_.SujecionSpin = true;
+    ctx_.SujecionSpin = true;
     emit pulsada(sentido);
-    while (vivo && e_.SujecionSpin) {
+    while (vivo && ctx_.SujecionSpin) {
         encendida_ = sentido;
         repaint();
-        Suena(e_, 1, 4);
+        Suena(ctx_, 1, 4);
         if (paso_) paso_(sentido);
-        Espera(e_, 40);
+        Espera(ctx_, 40);
         encendida_ = 0;
         repaint();
         AtiendeEventos();

@@ -1,7 +1,7 @@
 // A step key (Pic_TeclaAD): the up and down keys with a label beneath.
 // Holding a half repeats the step callback (+1 upper, -1 lower) until the
-// mouse is released or leaves the keys; the spin hold flag of the state
-// carries the hold, as for spin fields.
+// mouse is released or leaves the keys; the spin hold flag of the
+// controls' context carries the hold, as for spin fields.
 #pragma once
 #include <functional>
 #include <string>
@@ -15,7 +15,7 @@ class TeclaAD : public ControlDibujado {
     Q_OBJECT
 public:
     // `etiqueta` in Windows-1252 ("Minuto", "Hora", ...).
-    TeclaAD(Estado& e, int indice, std::string etiqueta, QWidget* padre = nullptr);
+    TeclaAD(Contexto& ctx, int indice, std::string etiqueta, QWidget* padre = nullptr);
     // One step of the repeat, in the direction given.
     void setPaso(std::function<void(int sentido)> paso) { paso_ = std::move(paso); }
     QSize sizeHint() const override;

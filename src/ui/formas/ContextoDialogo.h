@@ -1,6 +1,7 @@
-// What every dialog receives from the main window: the state, the
-// catalogues, how to redraw the sky, ask the user, open help, and the
-// window to centre on.
+// What every dialog receives from the main window: the state, the context
+// of the drawn controls, the window's own interface state, the catalogues,
+// how to redraw the sky, ask the user, open help, and the window to centre
+// on.
 #pragma once
 #include <QDialog>
 #include <QWidget>
@@ -10,11 +11,15 @@
 #include "app/base/InterfazMensajes.h"
 #include "catalogue/Catalogos.h"
 #include "platform/qt/PantallaQt.h"
+#include "ui/controles/Contexto.h"
+#include "ui/formas/EstadoVentana.h"
 
 namespace vedrano {
 
 struct ContextoDialogo {
     Estado& e;
+    controles::Contexto& controles;  // what the form's drawn controls share with the window's
+    EstadoVentana& ventana;
     const Catalogos& c;
     InterfazMensajes& mensajes;
     QWidget* cielo;                            // the main window: owner and centre of every dialog
