@@ -21,7 +21,7 @@ constexpr double CAMPO_MINIMO = 0.0087, CAMPO_MAXIMO = 0.5236;
 // A file is read back only within what the control that sets the item
 // allows: a value beyond it would reach a table index, a pause or an integer
 // conversion the program was never meant to meet.
-#define LIMITES(control) FormatoIndice(control).Minimo, FormatoIndice(control).Maximo
+#define LIMITES(indice) FormatoIndice(indice).Minimo, FormatoIndice(indice).Maximo
 
 #define ENTERO(campo) CampoItem{CampoEntero{[](Estado& e) -> int16_t& { return e.campo; }}}
 #define SINGLE(campo) CampoItem{CampoSingle{[](Estado& e) -> float& { return e.campo; }}}
@@ -40,7 +40,7 @@ const ItemConfiguracion LINEA1[] = {
     {"Latitud", DOUBLE(Latitud), -MEDIO_PI, MEDIO_PI, true},
     {"Direccion", DOUBLE(Direccion), 0, DOS_PI, true},
     {"Elevacion", DOUBLE(Elevacion), 0, MEDIO_PI, true},
-    {"Zoom", SINGLE(Zoom), LIMITES(30), true},
+    {"Zoom", SINGLE(Zoom), LIMITES(control::Zoom), true},
 };
 
 const ItemConfiguracion LINEA2[] = {
@@ -48,13 +48,13 @@ const ItemConfiguracion LINEA2[] = {
 };
 
 const ItemConfiguracion LINEA3[] = {
-    {"NivelEstrellas", ENTERO(NivelEstrellas), LIMITES(32), true},
-    {"NivelConstelaciones", ENTERO(NivelConstelaciones), LIMITES(33), true},
-    {"NivelGalaxias", ENTERO(NivelGalaxias), LIMITES(19), true},
-    {"NivelNebPlanetarias", ENTERO(NivelNebPlanetarias), LIMITES(20), true},
-    {"NivelNebDifusas", ENTERO(NivelNebDifusas), LIMITES(21), true},
-    {"NivelCumAbiertos", ENTERO(NivelCumAbiertos), LIMITES(22), true},
-    {"NivelCumGlobulares", ENTERO(NivelCumGlobulares), LIMITES(23), true},
+    {"NivelEstrellas", ENTERO(NivelEstrellas), LIMITES(control::MagnitudMinima), true},
+    {"NivelConstelaciones", ENTERO(NivelConstelaciones), LIMITES(control::NivelConstelaciones), true},
+    {"NivelGalaxias", ENTERO(NivelGalaxias), LIMITES(control::NivelGalaxias), true},
+    {"NivelNebPlanetarias", ENTERO(NivelNebPlanetarias), LIMITES(control::NivelNebPlanetarias), true},
+    {"NivelNebDifusas", ENTERO(NivelNebDifusas), LIMITES(control::NivelNebDifusas), true},
+    {"NivelCumAbiertos", ENTERO(NivelCumAbiertos), LIMITES(control::NivelCumAbiertos), true},
+    {"NivelCumGlobulares", ENTERO(NivelCumGlobulares), LIMITES(control::NivelCumGlobulares), true},
     // Identification choices: one value per option button of their frame.
     {"IdEstrellas", ENTERO(IdEstrellas), 0, 2, true},
     {"IdConstelaciones", ENTERO(IdConstelaciones), 0, 3, false},
@@ -73,22 +73,22 @@ const ItemConfiguracion LINEA3[] = {
 };
 
 const ItemConfiguracion LINEA4[] = {
-    {"AnchoMm", ENTERO(AnchoMm), LIMITES(34), false},
-    {"AltoMm", ENTERO(AltoMm), LIMITES(35), false},
+    {"AnchoMm", ENTERO(AnchoMm), LIMITES(control::AnchoImpresion), false},
+    {"AltoMm", ENTERO(AltoMm), LIMITES(control::AltoImpresion), false},
     {"PanelControl", BOOLEANO(PanelControl), -INF, INF, false},
     {"PanelCursor", BOOLEANO(PanelCursor), -INF, INF, false},
     {"PanelLocalizacion", BOOLEANO(PanelLocalizacion), -INF, INF, false},
     {"PanelObjetos", BOOLEANO(PanelObjetos), -INF, INF, false},
-    {"FormatoHora", ENTERO(FormatoHora), LIMITES(1), true},
-    {"Orientacion", ENTERO(Orientacion), LIMITES(16), true},
+    {"FormatoHora", ENTERO(FormatoHora), LIMITES(control::FormatoHora), true},
+    {"Orientacion", ENTERO(Orientacion), LIMITES(control::OrientacionCielo), true},
     {"Precesion", BOOLEANO(Precesion), -INF, INF, false},
     {"Sonido", BOOLEANO(Sonido), -INF, INF, false},
     {"Telescopio", BOOLEANO(Telescopio), -INF, INF, false},
     {"CampoTelescopio", DOUBLE(CampoTelescopio), CAMPO_MINIMO, CAMPO_MAXIMO, true},
-    {"Velocidad", ENTERO(Velocidad), LIMITES(15), true},
+    {"Velocidad", ENTERO(Velocidad), LIMITES(control::Velocidad), true},
     {"ZonaHoraria", SINGLE(ZonaHoraria), -24, 24, true},
     {"HorarioVerano", BOOLEANO(HorarioVerano), -INF, INF, false},
-    {"PasoCantidad", ENTERO(PasoCantidad), LIMITES(36), true},
+    {"PasoCantidad", ENTERO(PasoCantidad), LIMITES(control::FactorAnimacion), true},
     {"TiempoReal", BOOLEANO(TiempoReal), -INF, INF, true},
     {"ImagenEnPantalla", BOOLEANO(ImagenEnPantalla), -INF, INF, true},
 };

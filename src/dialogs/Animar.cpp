@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "app/base/Aritmetica.h"
+#include "app/base/TablasControles.h"
 #include "app/base/TablasFijas.h"
 #include "app/acciones/TiempoPresente.h"
 #include "app/estado/Tiempo.h"
@@ -65,7 +66,7 @@ Animar::Animar(ContextoDialogo& ctx)
 
     auto* fila = new QHBoxLayout;
     fila->setSpacing(10);
-    cantidad_ = new Spin(c_.controles, 36);
+    cantidad_ = new Spin(c_.controles, control::FactorAnimacion);
     cantidad_->setFixedSize(cantidad_->sizeHint());
     cantidad_->setValor(e.PasoCantidad);
     // A typed count is read as the classic Val reads it (letters and an
@@ -79,7 +80,7 @@ Animar::Animar(ContextoDialogo& ctx)
         est.Cambiado = true;
     });
     fila->addWidget(cantidad_);
-    tiempoReal_ = new Interruptor(c_.controles, 14);
+    tiempoReal_ = new Interruptor(c_.controles, control::TiempoReal);
     tiempoReal_->setFixedSize(tiempoReal_->sizeHint());
     tiempoReal_->setEncendido(e.TiempoReal);
     connect(tiempoReal_, &Interruptor::cambiado, this, [this](bool si) {

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 
 #include "app/base/Aritmetica.h"
+#include "app/base/TablasControles.h"
 #include "app/base/Texto1252.h"
 #include "astro/Calendario.h"
 #include "app/acciones/TiempoPresente.h"
@@ -76,7 +77,7 @@ Hora::Hora(ContextoDialogo& ctx)
     connect(juliano_, &QLineEdit::editingFinished, this, &Hora::validaJuliano);
     filaDatos->addWidget(juliano_);
     filaDatos->addStretch(1);
-    zona_ = new Spin(c_.controles, 31);
+    zona_ = new Spin(c_.controles, control::ZonaHora);
     zona_->setFixedSize(zona_->sizeHint());
     zona_->setValor(e.ZonaHoraria);
     // While the keys repeat the local fields follow; the value stays once stored.
@@ -90,7 +91,7 @@ Hora::Hora(ContextoDialogo& ctx)
     connect(zona_, &Spin::paso, this, cambiaZona);
     zona_->setAlmacen(cambiaZona);
     filaDatos->addWidget(zona_);
-    verano_ = new Interruptor(c_.controles, 11);
+    verano_ = new Interruptor(c_.controles, control::HorarioVerano);
     verano_->setFixedSize(verano_->sizeHint());
     verano_->setEncendido(e.HorarioVerano);
     connect(verano_, &Interruptor::cambiado, this, [this](bool si) {
@@ -107,9 +108,9 @@ Hora::Hora(ContextoDialogo& ctx)
     auto* filaPulsadores = new QHBoxLayout;
     filaPulsadores->setSpacing(10);
     for (int i = 0; i < 3; ++i) {
-        auto* p = new Pulsador(c_.controles, 41 + i);
+        auto* p = new Pulsador(c_.controles, control::FechaHoraActuales + i);
         p->setFixedSize(i == 0 ? 150 : 110, p->sizeHint().height());
-        connect(p, &Pulsador::accionado, this, [this, i] { pulsa(41 + i); });
+        connect(p, &Pulsador::accionado, this, [this, i] { pulsa(control::FechaHoraActuales + i); });
         pulsadores_[i] = p;
         filaPulsadores->addWidget(p);
     }
@@ -251,13 +252,13 @@ void Hora::pulsa(int indice) {
     validaPendientes();
     Estado& e = c_.e;
     switch (indice) {
-        case 41:
+        case control::FechaHoraActuales:
             TiempoActual(e, c_.c.TablaPlanetas, reloj_());
             e.Cambiado = true;
             muestra();
             break;
-        case 42: fijaJuliana(JulianaMediodia(e, RelojLocal(e, reloj_()))); break;
-        case 43: fijaJuliana(JulianaMedianoche(e, RelojLocal(e, reloj_()))); break;
+        case control::Mediodia: fijaJuliana(JulianaMediodia(e, RelojLocal(e, reloj_()))); break;
+        case control::Medianoche: fijaJuliana(JulianaMedianoche(e, RelojLocal(e, reloj_()))); break;
         default: break;
     }
 }

@@ -7,6 +7,7 @@
 #include <functional>
 #include <vector>
 
+#include "app/base/TablasControles.h"
 #include "dialogs/piezas/MarcoOpciones.h"
 
 class QLineEdit;
@@ -38,7 +39,7 @@ public:
     QLineEdit* juliano() const { return juliano_; }
     controles::Spin* zona() const { return zona_; }
     controles::Interruptor* verano() const { return verano_; }
-    controles::Pulsador* pulsador(int indice) const { return pulsadores_[indice - 41]; }
+    controles::Pulsador* pulsador(int indice) const { return pulsadores_[indice - control::FechaHoraActuales]; }
     controles::TeclaAD* tecla(int i) const { return teclas_[i]; }
     Casilla* solares() const { return tipos_[0]; }
     Casilla* siderales() const { return tipos_[1]; }

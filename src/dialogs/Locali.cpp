@@ -12,6 +12,7 @@
 
 #include "app/base/Constantes.h"
 #include "app/base/Formato.h"
+#include "app/base/TablasControles.h"
 #include "app/base/Texto1252.h"
 #include "app/base/TextosAngulo.h"
 #include "app/estado/Tiempo.h"
@@ -98,8 +99,8 @@ Locali::Locali(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
         muestraValores();
     });
 
-    longitud_ = new SpinAngulo(ctx_.controles, 25, 14, this);
-    latitud_ = new SpinAngulo(ctx_.controles, 26, 13, this);
+    longitud_ = new SpinAngulo(ctx_.controles, control::Longitud, 14, this);
+    latitud_ = new SpinAngulo(ctx_.controles, control::Latitud, 13, this);
     PreparaAngulo(longitud_, e, TipoAngulo::Longitud);
     PreparaAngulo(latitud_, e, TipoAngulo::Latitud);
     for (Spin* s : {longitud_, latitud_})
@@ -107,16 +108,16 @@ Locali::Locali(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
             ActualizaLugar(ctx_.e, ctx_.c.TablaPlanetas);
             mapa_->Actualiza();
         });
-    zona_ = new Spin(ctx_.controles, 27, this);
+    zona_ = new Spin(ctx_.controles, control::ZonaLocali, this);
     zona_->setAlmacen([this](float v) {
         ctx_.e.ZonaHoraria = v;
         ActualizaLugar(ctx_.e, ctx_.c.TablaPlanetas);
     });
-    direccion_ = new Spin(ctx_.controles, 28, this);
+    direccion_ = new Spin(ctx_.controles, control::Direccion, this);
     direccion_->setAlmacen([&e](float v) { e.Direccion = v * GRADO; });
-    elevacion_ = new Spin(ctx_.controles, 29, this);
+    elevacion_ = new Spin(ctx_.controles, control::Elevacion, this);
     elevacion_->setAlmacen([&e](float v) { e.Elevacion = v * GRADO; });
-    zoom_ = new Spin(ctx_.controles, 30, this);
+    zoom_ = new Spin(ctx_.controles, control::Zoom, this);
     zoom_->setAlmacen([&e](float v) { e.Zoom = v; });
 
     ayuda_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Ayuda, this);
@@ -173,12 +174,12 @@ Locali::Locali(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
 
 Spin* Locali::spin(int indice) const {
     switch (indice) {
-        case 25: return longitud_;
-        case 26: return latitud_;
-        case 27: return zona_;
-        case 28: return direccion_;
-        case 29: return elevacion_;
-        case 30: return zoom_;
+        case control::Longitud: return longitud_;
+        case control::Latitud: return latitud_;
+        case control::ZonaLocali: return zona_;
+        case control::Direccion: return direccion_;
+        case control::Elevacion: return elevacion_;
+        case control::Zoom: return zoom_;
         default: return nullptr;
     }
 }

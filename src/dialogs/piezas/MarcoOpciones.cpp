@@ -64,7 +64,7 @@ void Casilla::pinta(QPainter& p) {
     ImprimeEtiqueta(p, 22, 3, texto_);
 }
 
-void Casilla::mouseMoveEvent(QMouseEvent*) { cambiaCursor(21); }
+void Casilla::mouseMoveEvent(QMouseEvent*) { cambiaCursor(cursor::ManoIndice); }
 
 void Casilla::mouseReleaseEvent(QMouseEvent* ev) {
     if (ev->button() != Qt::LeftButton || !rect().contains(ev->position().toPoint())) return;

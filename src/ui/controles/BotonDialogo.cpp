@@ -25,7 +25,7 @@ void BotonDialogo::mousePressEvent(QMouseEvent* ev) {
     repaint();
 }
 
-void BotonDialogo::mouseMoveEvent(QMouseEvent*) { cambiaCursor(21); }
+void BotonDialogo::mouseMoveEvent(QMouseEvent*) { cambiaCursor(cursor::ManoIndice); }
 
 void BotonDialogo::mouseReleaseEvent(QMouseEvent* ev) {
     if (ev->button() != Qt::LeftButton) return;

@@ -47,7 +47,7 @@ QString ControlDibujado::nombreAccesible() const {
     return t.isEmpty() ? etiqueta() : t;
 }
 
-void ControlDibujado::leaveEvent(QEvent*) { cambiaCursor(0); }
+void ControlDibujado::leaveEvent(QEvent*) { cambiaCursor(cursor::Normal); }
 
 QString ControlDibujado::etiqueta() const {
     return rotulo_.isEmpty() ? Texto(Etiqueta(indice_)).trimmed() : rotulo_;

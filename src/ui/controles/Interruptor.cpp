@@ -33,7 +33,7 @@ void Interruptor::pinta(QPainter& p) {
     ImprimeEtiqueta(p, 24, 4, etiqueta());
 }
 
-void Interruptor::mouseMoveEvent(QMouseEvent*) { cambiaCursor(21); }
+void Interruptor::mouseMoveEvent(QMouseEvent*) { cambiaCursor(cursor::ManoIndice); }
 
 void Interruptor::mouseReleaseEvent(QMouseEvent* ev) {
     if (ev->button() != Qt::LeftButton || !rect().contains(ev->position().toPoint())) return;

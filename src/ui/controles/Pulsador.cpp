@@ -57,7 +57,7 @@ void Pulsador::pulsa() {
     if (vivo) emit accionado();
 }
 
-void Pulsador::mouseMoveEvent(QMouseEvent*) { cambiaCursor(21); }
+void Pulsador::mouseMoveEvent(QMouseEvent*) { cambiaCursor(cursor::ManoIndice); }
 
 void Pulsador::mouseReleaseEvent(QMouseEvent* ev) {
     if (ev->button() == Qt::LeftButton && rect().contains(ev->position().toPoint())) pulsa();

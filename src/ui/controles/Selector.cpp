@@ -44,7 +44,7 @@ void Selector::pinta(QPainter& p) {
     p.restore();
 }
 
-void Selector::mouseMoveEvent(QMouseEvent*) { cambiaCursor(21); }
+void Selector::mouseMoveEvent(QMouseEvent*) { cambiaCursor(cursor::ManoIndice); }
 
 void Selector::mouseReleaseEvent(QMouseEvent* ev) {
     if (!rect().contains(ev->position().toPoint())) return;

@@ -75,9 +75,9 @@ bool Spin::sobreFlechas(QPoint p) const { return p.x() >= width() - 21 && p.y() 
 
 void Spin::mouseMoveEvent(QMouseEvent* ev) {
     if (sobreFlechas(ev->position().toPoint())) {
-        cambiaCursor(21);
+        cambiaCursor(cursor::ManoIndice);
     } else {
-        cambiaCursor(0);
+        cambiaCursor(cursor::Normal);
         ctx_.SujecionSpin = false;
     }
 }

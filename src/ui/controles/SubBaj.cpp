@@ -38,7 +38,7 @@ void SubBaj::mousePressEvent(QMouseEvent* ev) {
 void SubBaj::mouseMoveEvent(QMouseEvent* ev) {
     const QPoint p = ev->position().toPoint();
     const bool dentro = enBanda(p);
-    cambiaCursor(dentro ? 21 : 0);
+    cambiaCursor(dentro ? cursor::ManoIndice : cursor::Normal);
     emit movido(p.x(), p.y(), dentro);
 }
 

@@ -33,9 +33,9 @@ bool TeclaAD::sobreFlechas(QPoint p) const {
 
 void TeclaAD::mouseMoveEvent(QMouseEvent* ev) {
     if (sobreFlechas(ev->position().toPoint())) {
-        cambiaCursor(21);
+        cambiaCursor(cursor::ManoIndice);
     } else {
-        cambiaCursor(0);
+        cambiaCursor(cursor::Normal);
         ctx_.SujecionSpin = false;
     }
 }
