@@ -43,7 +43,7 @@ BENCHMARK(BM_JulianaAFecha);
 
 void BM_PrecesionYHorizonte(benchmark::State& s) {
     Estado e;
-    e.FechaJuliana = 2460000.5;
+    FijaFechaJuliana(e, TablaPlanetas{}, 2460000.5);  // the refresh needs no elements here
     e.Precesion = true;
     HallaPrecesion(e);
     e.TiempoSidereo = 1.234;

@@ -65,9 +65,9 @@ Estado TodoEncendido() {
     e.IdConstelaciones = 2;
     e.IdMessier = 1;
     e.Precesion = true;
-    e.Zoom = 1;
-    e.Elevacion = 1.2;
-    e.FechaJuliana = 2460700.4;  // a January night
+    FijaZoom(e, 1);
+    FijaVista(e, e.Direccion, 1.2);
+    FijaFechaJuliana(e, Datos().TablaPlanetas, 2460700.4);  // a January night
     return e;
 }
 
@@ -155,14 +155,13 @@ void BM_CapaProfunda(benchmark::State& st) {
     Lienzo l(1920, 1080);
     Estado e = TodoEncendido();
     const bool cisne = st.range(1) == 0;
-    e.FechaJuliana = cisne ? 2460880.528 : 2460850.501;
-    ActualizaTiempo(e, c.TablaPlanetas);
+    FijaFechaJuliana(e, c.TablaPlanetas, cisne ? 2460880.528 : 2460850.501);
     Vector3f h = EcuatorialAHorizontal(e, cisne ? AngulosAVector(310.35 * GRADO, 45.28 * GRADO)
                                                : AngulosAVector(270.95 * GRADO, -24.38 * GRADO));
-    e.Direccion = std::atan2(-double{h.x}, double{h.y});
-    if (e.Direccion < 0) e.Direccion += 2 * M_PI;
-    e.Elevacion = std::asin(double{h.z});
-    e.Zoom = static_cast<float>(st.range(0));
+    double direccion = std::atan2(-double{h.x}, double{h.y});
+    if (direccion < 0) direccion += 2 * M_PI;
+    FijaVista(e, direccion, std::asin(double{h.z}));
+    FijaZoom(e, static_cast<float>(st.range(0)));
     OpcionesDibujo o = Opciones();
     o.EstrellasDebiles = true;
     o.Profundas = &Profundas();

@@ -16,6 +16,7 @@
 #include "catalogue/CargaCatalogos.h"
 #include "fuzz/Objetivo.h"
 #include "sky/DibujaCielo.h"
+#include "sky/proyeccion/Proyeccion.h"
 
 using namespace vedrano;
 namespace fs = std::filesystem;
@@ -49,7 +50,7 @@ Estado TodoALaVista() {
     Interruptores& s = e.Capas;
     s.Galax = s.NebPl = s.NebDi = s.CumAb = s.CumGl = s.Quasa = s.Pulsa = s.Aguje = 1;
     s.Messi = s.ViaLa = s.LimCo = s.Eclip = 1;
-    e.Zoom = 1;
+    FijaZoom(e, 1);
     return e;
 }
 

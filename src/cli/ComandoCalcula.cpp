@@ -21,7 +21,9 @@
 #include "astro/Precesion.h"
 #include "astro/Sidereo.h"
 #include "app/base/TextosAngulo.h"
+#include "app/estado/Astros.h"
 #include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "catalogue/TablaPlanetas.h"
 #include "cli/CarpetaDatos.h"
 #include "sky/proyeccion/Proyeccion.h"
@@ -228,7 +230,7 @@ private:
             r.T(e.TextoFecha).T(e.TextoHora);
         }};
         o["AvanzaTiempo"] = {4, [this](Argumentos& a, Estado& e, Resultado& r) {
-            e.FechaJuliana = a.D();
+            FijaFechaJuliana(e, vacia_, a.D());
             e.PasoUnidad = a.I();
             e.PasoCantidad = a.I();
             int16_t signo = a.I();
@@ -315,13 +317,13 @@ private:
         o["TextoDireccion"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.T(TextoDireccion(a.D())); }};
         o["TextoGrados"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.T(TextoGrados(a.D())); }};
         o["LeeAngulo"] = {1, [](Argumentos& a, Estado&, Resultado& r) { r.D(LeeAngulo(a.T())); }};
-        o["ProyectaPunto"] = {7, [](Argumentos& a, Estado& e, Resultado& r) {
+        o["ProyectaPunto"] = {7, [this](Argumentos& a, Estado& e, Resultado& r) {
             LeeVista(a, e);
             Vector3f v{a.F(), a.F(), a.F()};
             PuntoProyectado p = ProyectaPunto(e, v);
             r.F(p.X).F(p.Y).F(p.Z);
         }};
-        o["PuntoACielo"] = {6, [](Argumentos& a, Estado& e, Resultado& r) {
+        o["PuntoACielo"] = {6, [this](Argumentos& a, Estado& e, Resultado& r) {
             LeeVista(a, e);
             float X = a.F(), Y = a.F();
             double ar = 0, dec = 0;
@@ -330,9 +332,9 @@ private:
             r.D(ar).D(dec).F(alt).F(az);
         }};
         o["Umbral"] = {2, [](Argumentos& a, Estado& e, Resultado& r) {
-            e.Zoom = a.F();
+            const float zoom = a.F();
             e.Orientacion = a.I();
-            AjustaEscala(e);
+            FijaZoom(e, zoom);  // a fresh state: the scale without a picture
             r.F(e.Umbral);
         }};
     }
@@ -349,13 +351,17 @@ private:
         }};
     }
 
-    static void LeeVista(Argumentos& a, Estado& e) {
-        e.TiempoSidereo = a.D();
-        e.Latitud = a.D();
-        e.Direccion = a.D();
-        e.Elevacion = a.D();
+    // The sidereal time is given as it stands, not derived from the place:
+    // it is set after the place's refresh.
+    void LeeVista(Argumentos& a, Estado& e) const {
+        const double sidereo = a.D();
+        Observador o = ObservadorDe(e);
+        o.Latitud = a.D();
+        FijaLugar(e, vacia_, o);
+        e.TiempoSidereo = sidereo;
+        const double direccion = a.D();
+        FijaVista(e, direccion, a.D());
         e.Precesion = false;
-        GiraDireccion(e);
     }
 
     std::string dirDatos_;

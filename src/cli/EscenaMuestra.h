@@ -14,6 +14,7 @@
 #include "app/estado/Estado.h"
 #include "app/estado/Rotaciones.h"
 #include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "astro/Calendario.h"
 #include "astro/Coordenadas.h"
 #include "catalogue/Catalogos.h"
@@ -59,8 +60,10 @@ public:
     }
 
     void Zona(float horas, bool verano) {
-        e.ZonaHoraria = horas;
-        e.HorarioVerano = verano;
+        Observador o = ObservadorDe(e);
+        o.ZonaHoraria = horas;
+        o.HorarioVerano = verano;
+        FijaLugar(e, planetas_, o);
     }
 
     // An instant in Universal Time.
@@ -109,9 +112,8 @@ public:
     }
 
     void Mira(double azimut, double altura, float zoom) {
-        e.Direccion = azimut;
-        e.Elevacion = altura;
-        e.Zoom = zoom;
+        FijaVista(e, azimut, altura);
+        FijaZoom(e, zoom);
     }
 
     // The minute of [desde, hasta] (Julian days) where `valor` is least,

@@ -8,7 +8,21 @@
 
 namespace vedrano {
 
+// The reader's permission to load the fields that have a setter: it loads
+// a whole situation, and the pass that follows every load refreshes what
+// derives from it.
+LlaveEstado LlaveLectorConfiguracion() { return {}; }
+
 namespace {
+
+template <class T>
+T& Campo(T& campo) {
+    return campo;
+}
+template <class T>
+T& Campo(Fijado<T>& campo) {
+    return campo.Campo(LlaveLectorConfiguracion());
+}
 
 constexpr double INF = std::numeric_limits<double>::infinity();
 // The instants the calendar can show: 1 January 4713 BC, 0:00, to the end
@@ -23,11 +37,11 @@ constexpr double CAMPO_MINIMO = 0.0087, CAMPO_MAXIMO = 0.5236;
 // conversion the program was never meant to meet.
 #define LIMITES(indice) FormatoIndice(indice).Minimo, FormatoIndice(indice).Maximo
 
-#define ENTERO(campo) CampoItem{CampoEntero{[](Estado& e) -> int16_t& { return e.campo; }}}
-#define SINGLE(campo) CampoItem{CampoSingle{[](Estado& e) -> float& { return e.campo; }}}
-#define DOUBLE(campo) CampoItem{CampoDouble{[](Estado& e) -> double& { return e.campo; }}}
-#define BOOLEANO(campo) CampoItem{CampoBooleano{[](Estado& e) -> bool& { return e.campo; }}}
-#define CADENA(campo) CampoItem{CampoCadena{[](Estado& e) -> std::string& { return e.campo; }}}
+#define ENTERO(campo) CampoItem{CampoEntero{[](Estado& e) -> int16_t& { return Campo(e.campo); }}}
+#define SINGLE(campo) CampoItem{CampoSingle{[](Estado& e) -> float& { return Campo(e.campo); }}}
+#define DOUBLE(campo) CampoItem{CampoDouble{[](Estado& e) -> double& { return Campo(e.campo); }}}
+#define BOOLEANO(campo) CampoItem{CampoBooleano{[](Estado& e) -> bool& { return Campo(e.campo); }}}
+#define CADENA(campo) CampoItem{CampoCadena{[](Estado& e) -> std::string& { return Campo(e.campo); }}}
 
 // A check box of the object options: any value is accepted, non-zero is on.
 #define CAPA(campo) {"Capas." #campo, ENTERO(Capas.campo), -INF, INF, false}

@@ -9,6 +9,7 @@
 #include "app/base/Texto1252.h"
 #include "astro/Calendario.h"
 #include "app/acciones/TiempoPresente.h"
+#include "app/estado/Astros.h"
 #include "app/estado/Tiempo.h"
 #include "app/acciones/HoraReglas.h"
 #include "platform/Reloj.h"
@@ -83,8 +84,9 @@ Hora::Hora(ContextoDialogo& ctx)
     // While the keys repeat the local fields follow; the value stays once stored.
     auto cambiaZona = [this](float v) {
         validaPendientes();
-        c_.e.ZonaHoraria = v;
-        MuestraFechas(c_.e);
+        Observador o = ObservadorDe(c_.e);
+        o.ZonaHoraria = v;
+        FijaLugar(c_.e, c_.c.TablaPlanetas, o);  // the local fields follow (MuestraFechas)
         c_.e.Cambiado = true;
         muestra();
     };
@@ -96,8 +98,9 @@ Hora::Hora(ContextoDialogo& ctx)
     verano_->setEncendido(e.HorarioVerano);
     connect(verano_, &Interruptor::cambiado, this, [this](bool si) {
         validaPendientes();
-        c_.e.HorarioVerano = si;
-        MuestraFechas(c_.e);
+        Observador o = ObservadorDe(c_.e);
+        o.HorarioVerano = si;
+        FijaLugar(c_.e, c_.c.TablaPlanetas, o);
         c_.e.Cambiado = true;
         muestra();
     });

@@ -15,7 +15,9 @@
 #include "app/base/TablasControles.h"
 #include "app/base/Texto1252.h"
 #include "app/base/TextosAngulo.h"
+#include "app/estado/Astros.h"
 #include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "dialogs/piezas/CampoAngulo.h"
 #include "dialogs/piezas/FiltroLista.h"
 #include "app/acciones/LugarElegido.h"
@@ -35,7 +37,7 @@ constexpr int TEMA_AYUDA_LOCALI = tema::LOCALI;
 
 // Sets up one angle field: its text, how typing is read and corrected key
 // by key, and where the value goes.
-void PreparaAngulo(Spin* s, Estado& e, TipoAngulo tipo) {
+void PreparaAngulo(Spin* s, Estado& e, const TablaPlanetas& planetas, TipoAngulo tipo) {
     const bool lon = tipo == TipoAngulo::Longitud;
     // The state keeps the place's own radians; the spin's single-precision
     // degrees would lose its last second, so they are shown only once they differ.
@@ -51,7 +53,11 @@ void PreparaAngulo(Spin* s, Estado& e, TipoAngulo tipo) {
         if (!r) return std::nullopt;
         return static_cast<float>(lon ? GradosOeste(*r) : *r * RAD_A_GRADOS);
     });
-    s->setAlmacen([&e, radianes, lon](float v) { (lon ? e.Longitud : e.Latitud) = radianes(v); });
+    s->setAlmacen([&e, &planetas, radianes, lon](float v) {
+        Observador o = ObservadorDe(e);
+        (lon ? o.Longitud : o.Latitud) = radianes(v);
+        FijaLugar(e, planetas, o);
+    });
     QLineEdit* campo = s->campo();
     QObject::connect(campo, &QLineEdit::textEdited, campo, [campo, tipo](const QString& t) {
         const QString corregido = CorrigeTeclas(t, tipo);
@@ -101,24 +107,21 @@ Locali::Locali(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
 
     longitud_ = new SpinAngulo(ctx_.controles, control::Longitud, 14, this);
     latitud_ = new SpinAngulo(ctx_.controles, control::Latitud, 13, this);
-    PreparaAngulo(longitud_, e, TipoAngulo::Longitud);
-    PreparaAngulo(latitud_, e, TipoAngulo::Latitud);
-    for (Spin* s : {longitud_, latitud_})
-        connect(s, &Spin::almacenado, this, [this] {
-            ActualizaLugar(ctx_.e, ctx_.c.TablaPlanetas);
-            mapa_->Actualiza();
-        });
+    PreparaAngulo(longitud_, e, ctx_.c.TablaPlanetas, TipoAngulo::Longitud);
+    PreparaAngulo(latitud_, e, ctx_.c.TablaPlanetas, TipoAngulo::Latitud);
+    for (Spin* s : {longitud_, latitud_}) connect(s, &Spin::almacenado, this, [this] { mapa_->Actualiza(); });
     zona_ = new Spin(ctx_.controles, control::ZonaLocali, this);
     zona_->setAlmacen([this](float v) {
-        ctx_.e.ZonaHoraria = v;
-        ActualizaLugar(ctx_.e, ctx_.c.TablaPlanetas);
+        Observador o = ObservadorDe(ctx_.e);
+        o.ZonaHoraria = v;
+        FijaLugar(ctx_.e, ctx_.c.TablaPlanetas, o);
     });
     direccion_ = new Spin(ctx_.controles, control::Direccion, this);
-    direccion_->setAlmacen([&e](float v) { e.Direccion = v * GRADO; });
+    direccion_->setAlmacen([&e](float v) { FijaVista(e, v * GRADO, e.Elevacion); });
     elevacion_ = new Spin(ctx_.controles, control::Elevacion, this);
-    elevacion_->setAlmacen([&e](float v) { e.Elevacion = v * GRADO; });
+    elevacion_->setAlmacen([&e](float v) { FijaVista(e, e.Direccion, v * GRADO); });
     zoom_ = new Spin(ctx_.controles, control::Zoom, this);
-    zoom_->setAlmacen([&e](float v) { e.Zoom = v; });
+    zoom_->setAlmacen([&e](float v) { FijaZoom(e, v); });
 
     ayuda_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Ayuda, this);
     ayuda_->setToolTip(QStringLiteral(" Ayuda sobre Localización "));

@@ -150,7 +150,7 @@ TEST(Tiempo, StepsAndYearArithmetic) {
     TablaPlanetas vacia{};
     Estado e;
     auto paso = [&](int a, int m, int d, int unidad, int cantidad, int signo) {
-        e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(a, m, d, 12, 0));
+        FijaFechaJuliana(e, vacia, FechaAJuliana(ArmaCadenaFecha(a, m, d, 12, 0)));
         e.PasoUnidad = static_cast<int16_t>(unidad);
         e.PasoCantidad = static_cast<int16_t>(cantidad);
         FijaPaso(e, signo);
@@ -173,7 +173,7 @@ TEST(Tiempo, StepsAndYearArithmetic) {
     paso(-1, 6, 1, 10, 2, 1);
     EXPECT_EQ(e.FecAno, 1);
 
-    e.FechaJuliana = 2451545.0;
+    FijaFechaJuliana(e, vacia, 2451545.0);
     e.PasoUnidad = 3;
     e.PasoCantidad = 1;
     FijaPaso(e, 1);
@@ -198,9 +198,8 @@ TEST(Tiempo, DisplayTextsAndClock) {
 
     // Local fields: zone +1 with summer time is two hours ahead.
     e.FormatoHora = 1;
-    e.ZonaHoraria = 1;
-    e.HorarioVerano = true;
-    e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(2024, 7, 31, 23, 10));
+    FijaLugar(e, vacia, {e.Longitud, e.Latitud, 1, true});
+    FijaFechaJuliana(e, vacia, FechaAJuliana(ArmaCadenaFecha(2024, 7, 31, 23, 10)));
     MuestraFechas(e);
     EXPECT_EQ(e.Fechas[0].Hora, "23:10");
     EXPECT_EQ(e.Fechas[1].Hora, "01:10");
@@ -210,8 +209,7 @@ TEST(Tiempo, DisplayTextsAndClock) {
     EXPECT_EQ(e.TextoDiaJuliano, "2460523.465278");
 
     // A clock reading of 1 January 2000 14:00:40 local, zone +2: 12:01 UT.
-    e.HorarioVerano = false;
-    e.ZonaHoraria = 2;
+    FijaLugar(e, vacia, {e.Longitud, e.Latitud, 2, false});
     TiempoDesdeReloj(e, vacia, 36526.0 + (14 * 3600 + 40) / 86400.0);
     EXPECT_NEAR(e.FechaJuliana, 2451545.0 + 1.0 / 1440, 1e-9);
 }

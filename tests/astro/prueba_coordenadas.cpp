@@ -6,11 +6,25 @@
 #include <random>
 
 #include "app/base/ErrorEjecucion.h"
+#include "app/estado/Astros.h"
 #include "app/estado/Rotaciones.h"
+#include "app/estado/Tiempo.h"
 #include "astro/Coordenadas.h"
 #include "sky/proyeccion/Proyeccion.h"
 
 using namespace vedrano;
+
+namespace {
+
+// A latitude of the cases' own; the sidereal time each case gives is set
+// after it, over the one the place's refresh leaves.
+void FijaLatitud(Estado& e, double latitud) {
+    Observador o = ObservadorDe(e);
+    o.Latitud = latitud;
+    FijaLugar(e, TablaPlanetas{}, o);
+}
+
+}  // namespace
 
 TEST(Coordenadas, ArcTangentQuadrantsAndErrors) {
     EXPECT_EQ(ArcoTangente(0, 1), 0);
@@ -59,8 +73,9 @@ TEST(Coordenadas, EclipticAndHorizon) {
     std::mt19937 gen(9);
     std::uniform_real_distribution<double> u(0, 2 * M_PI), ud(-1.4, 1.4);
     for (int i = 0; i < 2000; ++i) {
-        e.TiempoSidereo = u(gen);
-        e.Latitud = ud(gen);
+        const double sidereo = u(gen);
+        FijaLatitud(e, ud(gen));
+        e.TiempoSidereo = sidereo;
         double a = u(gen), d = ud(gen);
         Vector3f h = EcuatorialAHorizontal(e, AngulosAVector(a, d));
         double H = e.TiempoSidereo - a;  // hour angle
@@ -68,8 +83,8 @@ TEST(Coordenadas, EclipticAndHorizon) {
         EXPECT_NEAR(h.z, sinAlt, 1e-6);
         EXPECT_NEAR(h.x, std::cos(d) * std::sin(H), 1e-6);  // toward the west
     }
+    FijaLatitud(e, 0.7);
     e.TiempoSidereo = 2.0;
-    e.Latitud = 0.7;
     Vector3f polo = EcuatorialAHorizontal(e, {0, 1, 0});
     EXPECT_NEAR(polo.z, std::sin(0.7), 1e-7);
     EXPECT_NEAR(polo.y, std::cos(0.7), 1e-7);
@@ -78,11 +93,9 @@ TEST(Coordenadas, EclipticAndHorizon) {
 
 TEST(Proyeccion, CentreThresholdAndInverse) {
     Estado e;
-    e.Latitud = 0.64;
+    FijaLatitud(e, 0.64);
     e.TiempoSidereo = 1.1;
-    e.Direccion = 2.0;
-    e.Elevacion = 0.5;
-    GiraDireccion(e);
+    FijaVista(e, 2.0, 0.5);
     // The direction at the centre of view from its azimuth (north through
     // east) and altitude; x of the horizon frame points west.
     Vector3f centroH{static_cast<float>(-std::cos(0.5) * std::sin(2.0)),
@@ -92,11 +105,9 @@ TEST(Proyeccion, CentreThresholdAndInverse) {
     EXPECT_NEAR(p.Y, 0, 1e-6);
     EXPECT_NEAR(p.Z, 1, 1e-6);
 
-    e.Zoom = 1;
-    AjustaEscala(e);
+    FijaZoom(e, 1);  // the scale without a picture
     EXPECT_EQ(e.Umbral, 0.0f);
-    e.Zoom = 3;
-    AjustaEscala(e);
+    FijaZoom(e, 3);
     double esquina = std::hypot(3.4666667 / 6, 2.6 / 6);
     EXPECT_NEAR(e.Umbral, std::sqrt(1 - esquina * esquina), 1e-6);
     EXPECT_TRUE(EsVisible(e, {0, 0, e.Umbral}));  // exactly at the threshold is drawn

@@ -13,6 +13,7 @@
 #include "app/estado/Astros.h"
 #include "app/estado/Estado.h"
 #include "app/estado/Rotaciones.h"
+#include "app/estado/Tiempo.h"
 #include "astro/Coordenadas.h"
 #include "astro/Planetas.h"
 #include "astro/Precesion.h"
@@ -127,14 +128,17 @@ TEST(Erfa, TiempoSidereoSigueGmst) {
     TablaPlanetas t = Tabla();
     const double zonas[] = {-12, -9.5, -5, 0, 1, 3.5, 5.75, 9, 14};
     int k = 0;
+    // The instant and then the place through their setters: the place's
+    // refresh is what leaves the sidereal time of the new longitude.
     for (double jd : Fechas(AC_1000, DC_3000, 3000)) {
         Estado e;
-        e.FechaJuliana = jd;
-        e.Longitud = ((k * 37) % 361 - 180) * ERFA_DD2R;  // east and west
-        e.ZonaHoraria = static_cast<float>(zonas[k % 9]);
-        e.HorarioVerano = (k / 9) % 2 == 1;
+        FijaFechaJuliana(e, t, jd);
+        Observador o = ObservadorDe(e);
+        o.Longitud = ((k * 37) % 361 - 180) * ERFA_DD2R;  // east and west
+        o.ZonaHoraria = static_cast<float>(zonas[k % 9]);
+        o.HorarioVerano = (k / 9) % 2 == 1;
         ++k;
-        HallaTiempoSidereo(e, t);
+        FijaLugar(e, t, o);
         double referencia = eraGmst06(jd, 0, jd, 0) - e.Longitud;
         double error = eraAnpm(e.TiempoSidereo - referencia) * 43200.0 / ERFA_DPI;  // s of time
         double termino = e.Longitud / 365.2422 * 43200.0 / ERFA_DPI;
@@ -145,12 +149,21 @@ TEST(Erfa, TiempoSidereoSigueGmst) {
     // The zone and summer time change the civil clock, never the sky.
     for (double jd : Fechas(DC_1900, DC_2100, 200)) {
         Estado a, b;
-        a.FechaJuliana = b.FechaJuliana = jd;
-        b.ZonaHoraria = -7.5f;
-        b.HorarioVerano = true;
-        HallaTiempoSidereo(a, t);
-        HallaTiempoSidereo(b, t);
+        FijaFechaJuliana(a, t, jd);
+        FijaFechaJuliana(b, t, jd);
+        FijaLugar(b, t, {b.Longitud, b.Latitud, -7.5f, true});
         EXPECT_NEAR(eraAnpm(a.TiempoSidereo - b.TiempoSidereo), 0.0, 1e-9) << "JD " << jd;
+    }
+    // The precise model's place refresh turns the sky by the apparent
+    // sidereal time (GAST, IAU 2006/2000A) of the new longitude.
+    for (double jd : Fechas(DC_1900, DC_2100, 50)) {
+        Estado e;
+        e.Pref.PrecisionAlta = true;
+        FijaFechaJuliana(e, t, jd);
+        const double oeste = -2.1 + 0.08 * k++;
+        FijaLugar(e, t, {oeste, 0.7, 1, false});
+        // TT taken as UT: a minute or two of Delta T moves GAST by under 1e-9 rad.
+        EXPECT_NEAR(eraAnpm(e.TiempoSidereo - (eraGst06a(jd, 0, jd, 0) - oeste)), 0.0, 1e-7) << "JD " << jd;
     }
 }
 
@@ -158,12 +171,12 @@ TEST(Erfa, TiempoSidereoSigueGmst) {
 // matrix. The program's angles use Newcomb's rates taken at 2000, so they
 // part from IAU 1976 by well under an arcsecond per century.
 TEST(Erfa, PrecesionSigueIau1976) {
+    const TablaPlanetas t = Tabla();
     int k = 0;
     for (double jd : Fechas(AC_1000, DC_3000, 1500)) {
         Estado e;
-        e.FechaJuliana = jd;
         e.Precesion = true;
-        HallaPrecesion(e);
+        FijaFechaJuliana(e, t, jd);  // the instant's refresh finds the angles
         double ar0 = std::fmod(k * 2.399963, 2 * ERFA_DPI);
         double dec0 = std::asin(std::fmod(k * 0.618034, 1.0) * 2 - 1);
         ++k;
@@ -257,7 +270,7 @@ TEST(Erfa, PlanetaDelEstadoSinSolPrevio) {
     TablaPlanetas t = Tabla();
     for (double jd : Fechas(DC_1900, DC_2100, 40)) {
         Estado e;
-        e.FechaJuliana = jd;
+        FijaFechaJuliana(e, t, jd);
         e.SolX = 0.8;  // the Sun of another instant
         e.SolZ = -0.6;
         HallaPlaneta(e, t, 4);

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "app/base/Constantes.h"
+#include "app/estado/Tiempo.h"
 #include "catalogue/TablaPlanetas.h"
 #include "sky/apunta/DiaObjeto.h"
 
@@ -27,12 +28,10 @@ TablaPlanetas Tabla() {
 // A state at noon UT of a Julian day, at a place (degrees, east positive)
 // and a zone (hours east of Greenwich).
 Estado Lugar(double jd0h, double lonEste, double lat, float zona = 0, bool verano = false) {
+    static const TablaPlanetas t = Tabla();
     Estado e;
-    e.FechaJuliana = jd0h + 0.5;
-    e.Longitud = -lonEste * GRADO;
-    e.Latitud = lat * GRADO;
-    e.ZonaHoraria = zona;
-    e.HorarioVerano = verano;
+    FijaFechaJuliana(e, t, jd0h + 0.5);
+    FijaLugar(e, t, {-lonEste * GRADO, lat * GRADO, zona, verano});
     return e;
 }
 

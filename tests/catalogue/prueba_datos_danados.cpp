@@ -63,7 +63,7 @@ Estado TodoALaVista() {
     e.IdConstelaciones = 1;
     Interruptores& s = e.Capas;
     s.Galax = s.NebPl = s.NebDi = s.CumAb = s.CumGl = 1;
-    e.Elevacion = 1.5;
+    FijaVista(e, e.Direccion, 1.5);
     return e;
 }
 
@@ -99,7 +99,7 @@ TEST_F(DatosDanados, UnaMagnitudAbsurdaDibujaUnDiscoSinAgotarLaMemoria) {
     Estado e;
     ApagaCapas(e);
     e.NivelEstrellas = 1;
-    e.Zoom = 15;
+    FijaZoom(e, 15);
     Lienzo l(200, 150);
     ActualizaCielo(e, cat, l);  // sets the scale and the sky's rotation
     double ar = 0, dec = 0;

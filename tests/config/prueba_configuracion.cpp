@@ -9,6 +9,8 @@
 #include <sstream>
 
 #include "app/base/Texto1252.h"
+#include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "config/EscribeConfiguracion.h"
 #include "config/ItemsConfiguracion.h"
 #include "config/LeeConfiguracion.h"
@@ -78,13 +80,12 @@ protected:
 // A state that differs from a fresh one in every item.
 Estado EstadoPoblado() {
     Estado e;
-    e.FechaJuliana = 2451545.12345678;  // 15 digits, all kept
+    const TablaPlanetas sinElementos{};  // the refreshes' values are not written
+    FijaFechaJuliana(e, sinElementos, 2451545.12345678);  // 15 digits, all kept
     e.IndiceLugar = 177;
-    e.Longitud = 6.1;
-    e.Latitud = -1.2;
-    e.Direccion = 6.2831853072;  // the ends of the ranges read back
-    e.Elevacion = 1.5707963268;
-    e.Zoom = 14.75f;
+    FijaLugar(e, sinElementos, {6.1, -1.2, -9.5f, true});
+    FijaVista(e, DOS_PI, MEDIO_PI);  // the ends of the ranges read back
+    FijaZoom(e, 14.75f);
     e.TextoLugar = A1252("Tromsø, \"el norte\"");
     e.NivelEstrellas = 0;
     e.NivelConstelaciones = 4;
@@ -110,8 +111,6 @@ Estado EstadoPoblado() {
     e.Precesion = true;
     e.CampoTelescopio = 30 / 57.29577951289617;
     e.Velocidad = 99;
-    e.ZonaHoraria = -9.5f;
-    e.HorarioVerano = true;
     e.PasoCantidad = 999;
     e.TiempoReal = true;
     e.ImagenEnPantalla = true;
@@ -168,9 +167,9 @@ TEST_F(Configuracion, LasMuestrasCarganSinMensajeYSeReescribenIguales) {
 }
 
 TEST_F(Configuracion, ArchivoQueNoExisteDejaLosValoresPorOmision) {
-    e.FechaJuliana = 1;
+    FijaFechaJuliana(e, TablaPlanetas{}, 1);
     e.IndiceLugar = 3;
-    e.Zoom = 9;
+    FijaZoom(e, 9);
     e.TextoLugar = "x";
     e.NivelGalaxias = 7;
     e.IdentificarObjetos = false;
@@ -225,7 +224,7 @@ TEST_F(Configuracion, ReglasDelNombreYPreguntaAntesDeSustituir) {
 
     // Declining leaves the old file, with no error.
     std::string antes = Lee(carpeta / "a.ls1");
-    e.Zoom = 7;
+    FijaZoom(e, 7);
     ui.respuesta = 0;
     ResultadoConfiguracion r = EscribeConfiguracion(e, "a", ui, false);
     EXPECT_FALSE(r.escrito);

@@ -17,6 +17,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "config/EscribeConfiguracion.h"
 #include "config/EscrituraSegura.h"
 #include "config/LeeConfiguracion.h"
@@ -80,7 +82,7 @@ protected:
 // two, whole. The next save leaves no temporary file of the dead writers.
 TEST_F(FallosEscritura, UnEscritorMatadoDejaElViejoOElNuevoEntero) {
     Estado a, b;
-    b.FechaJuliana = 2451545.25;
+    FijaFechaJuliana(b, TablaPlanetas{}, 2451545.25);
     b.TextoLugar = std::string(300, 'x');  // a longer file, written in more than one piece
     const std::string textoA = TextoConfiguracion(a), textoB = TextoConfiguracion(b);
     const std::string ruta = (dir / "k.ls1").string();
@@ -148,7 +150,7 @@ TEST_F(FallosEscritura, PdfEnDiscoLlenoNoDejaFicheroVacio) {
 TEST_F(FallosEscritura, DibujaBuscaLaConfiguracionEnLaCarpetaActual) {
     Estado e;
     std::ofstream(dir / "bien.ls1", std::ios::binary) << TextoConfiguracion(e);
-    e.Direccion = 1;
+    FijaVista(e, 1, e.Elevacion);
     std::string mal = TextoConfiguracion(e);
     mal.replace(mal.find(",1,"), 3, ",600,");
     std::ofstream(dir / "mal.ls1", std::ios::binary) << mal;

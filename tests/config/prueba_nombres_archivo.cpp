@@ -6,6 +6,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "app/estado/Vista.h"
 #include "config/EscribeConfiguracion.h"
 #include "config/EscrituraSegura.h"
 #include "config/LeeConfiguracion.h"
@@ -46,7 +47,7 @@ TEST_F(NombresArchivo, NombresUnicodeSeGuardanYSeLeenTalCual) {
     Estado e;
     e.DirArchivo = carpeta.string() + "/";
     Calla ui;
-    e.Zoom = 3.5f;
+    FijaZoom(e, 3.5f);
     for (const char* nombre : {"Ωmega-copia", "東京.ls1", "Ñandú"}) {
         SCOPED_TRACE(nombre);
         ResultadoConfiguracion w = EscribeConfiguracion(e, nombre, ui, false);

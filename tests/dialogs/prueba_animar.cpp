@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QTimer>
 
+#include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "app/base/TablasFijas.h"
@@ -110,7 +112,7 @@ TEST_F(FormaAnimar, SalirSinCambiosConservaElSentido) {
 TEST_F(FormaAnimar, TiempoRealArrancaElRelojYSaltaAlPresente) {
     e.TiempoReal = false;
     ventana.ContadorTiempoReal = 37;
-    e.ZonaHoraria = 1;
+    FijaLugar(e, c.TablaPlanetas, {e.Longitud, e.Latitud, 1, e.HorarioVerano});
     bool terminado = false;
     // The form shown as the main window shows it, answered once it is up.
     auto* t = new QTimer;

@@ -67,7 +67,7 @@ double PixelesPorGrado(pruebas::EntornoDialogo& d) {
 class BuscarObjetos : public ::testing::Test {
 protected:
     void SetUp() override {
-        d.e.FechaJuliana = 2460700.25;  // 24 January 2025, 18:00 UT: Mars near opposition, Orion up
+        FijaFechaJuliana(d.e, d.c.TablaPlanetas, 2460700.25);  // 24 January 2025, 18:00 UT: Mars near opposition, Orion up
         d.ctx.ActualizaCielo();
     }
     // Opens category `c`, types `filtro`, and presses the search button.
@@ -219,7 +219,7 @@ TEST_F(BuscarObjetos, CentraEstrellasObjetosYConstelaciones) {
     };
     for (const Caso& caso : casos) {
         pruebas::EntornoDialogo d2;
-        d2.e.FechaJuliana = d.e.FechaJuliana;
+        FijaFechaJuliana(d2.e, d2.c.TablaPlanetas, d.e.FechaJuliana);
         d2.ctx.ActualizaCielo();
         Buscar b(d2.ctx);
         b.show();
@@ -242,7 +242,7 @@ TEST_F(BuscarObjetos, CentraEstrellasObjetosYConstelaciones) {
 TEST_F(BuscarObjetos, CentraMarteYLaLuna) {
     for (int linea : {3, 10}) {
         pruebas::EntornoDialogo d2;
-        d2.e.FechaJuliana = d.e.FechaJuliana;
+        FijaFechaJuliana(d2.e, d2.c.TablaPlanetas, d.e.FechaJuliana);
         d2.ctx.ActualizaCielo();
         Buscar b(d2.ctx);
         b.show();
@@ -299,7 +299,7 @@ TEST_F(BuscarObjetos, ListasDeLecturaYTierraNoCentranNada) {
 TEST_F(BuscarObjetos, DobleClicEsElegirYBuscar) {
     pruebas::EntornoDialogo a, b;
     for (auto* x : {&a, &b}) {
-        x->e.FechaJuliana = d.e.FechaJuliana;
+        FijaFechaJuliana(x->e, x->c.TablaPlanetas, d.e.FechaJuliana);
         x->ctx.ActualizaCielo();
     }
     Buscar fa(a.ctx), fb(b.ctx);
@@ -318,7 +318,7 @@ TEST_F(BuscarObjetos, DobleClicEsElegirYBuscar) {
 }
 
 TEST_F(BuscarObjetos, NuncaSaleRechazaConSuMensaje) {
-    d.e.Latitud = 60 * GRADO;  // the southern sky's pole region never rises
+    FijaLugar(d.e, d.c.TablaPlanetas, {d.e.Longitud, 60 * GRADO, d.e.ZonaHoraria, d.e.HorarioVerano});  // the southern sky's pole region never rises
     d.ctx.ActualizaCielo();
     Buscar b(d.ctx);
     b.show();

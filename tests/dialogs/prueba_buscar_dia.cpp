@@ -38,7 +38,7 @@ QString DiaDe(pruebas::EntornoDialogo& d, int c, const QString& filtro) {
 TEST(BuscarDia, RisingTransitSettingNeverRisesAndTwilights) {
     pruebas::Falsos f;
     pruebas::EntornoDialogo d;
-    d.e.FechaJuliana = 2460700.25;
+    FijaFechaJuliana(d.e, d.c.TablaPlanetas, 2460700.25);
     d.ctx.ActualizaCielo();
     const QString sirio = DiaDe(d, 3, QStringLiteral("sirio"));
     // Sirius sets before dawn and rises in the afternoon: the day's order.

@@ -11,6 +11,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "app/base/Texto1252.h"
@@ -137,7 +139,7 @@ protected:
 };
 
 TEST_F(FormaHora, AnoQueDejaDeSerBisiestoYTreintaYUnoDeFebrero) {
-    e.FechaJuliana = Juliana(2000, 2, 29, 12, 0);
+    FijaFechaJuliana(e, c.TablaPlanetas, Juliana(2000, 2, 29, 12, 0));
     Hora h(ctx);
     EXPECT_EQ(h.dia(0)->text(), "29");
     Escribe(h.ano(0), "2001");
@@ -155,7 +157,7 @@ TEST_F(FormaHora, AnoQueDejaDeSerBisiestoYTreintaYUnoDeFebrero) {
 }
 
 TEST_F(FormaHora, EntradasMalas) {
-    e.FechaJuliana = Juliana(2000, 1, 1, 12, 0);
+    FijaFechaJuliana(e, c.TablaPlanetas, Juliana(2000, 1, 1, 12, 0));
     Hora h(ctx);
     Escribe(h.ano(0), "-5000");
     EXPECT_EQ(h.ano(0)->text().trimmed(), "-4713");
@@ -194,9 +196,8 @@ TEST_F(FormaHora, EntradasMalas) {
 }
 
 TEST_F(FormaHora, FilaLocalConZonaYVerano) {
-    e.FechaJuliana = Juliana(2000, 1, 1, 12, 0);
-    e.ZonaHoraria = 1;
-    e.HorarioVerano = true;
+    FijaFechaJuliana(e, c.TablaPlanetas, Juliana(2000, 1, 1, 12, 0));
+    FijaLugar(e, c.TablaPlanetas, {e.Longitud, e.Latitud, 1, true});
     Hora h(ctx);
     EXPECT_EQ(h.hora(1)->text(), "14:00");
     Escribe(h.hora(1), "14:30");
@@ -217,7 +218,7 @@ TEST_F(FormaHora, FilaLocalConZonaYVerano) {
 
 TEST_F(FormaHora, AmPm) {
     e.FormatoHora = 2;
-    e.FechaJuliana = Juliana(2000, 1, 1, 12, 30);
+    FijaFechaJuliana(e, c.TablaPlanetas, Juliana(2000, 1, 1, 12, 30));
     Hora h(ctx);
     EXPECT_EQ(h.hora(0)->text(), "00:30 PM");
     Escribe(h.hora(0), "11:45 P");
@@ -231,8 +232,7 @@ TEST_F(FormaHora, AmPm) {
 TEST_F(FormaHora, MediodiaMedianocheYAhoraConVerano) {
     // 15 July 2024, 07:20 UT: 09:20 in zone +1 with summer time (UT + 2).
     const double reloj = Reloj(2460506.5) + (7 * 60 + 20) / 1440.0;
-    e.ZonaHoraria = 1;
-    e.HorarioVerano = true;
+    FijaLugar(e, c.TablaPlanetas, {e.Longitud, e.Latitud, 1, true});
     Hora h(ctx);
     h.setReloj([reloj] { return reloj; });
 
@@ -261,8 +261,7 @@ TEST_F(FormaHora, AhoraNoDependeDeLaZonaDelOrdenador) {
     const QByteArray tzAntes = qgetenv("TZ");
     qputenv("TZ", "XST-7");
     tzset();
-    e.ZonaHoraria = -3;
-    e.HorarioVerano = true;
+    FijaLugar(e, c.TablaPlanetas, {e.Longitud, e.Latitud, -3, true});
     auto utAhora = [] { return QDateTime::currentMSecsSinceEpoch() / 86400000.0 + 2440587.5; };
     {
         Hora h(ctx);
@@ -277,7 +276,7 @@ TEST_F(FormaHora, AhoraNoDependeDeLaZonaDelOrdenador) {
 
         // Late on 10 March 2024 UT it is already 11 March for an observer at
         // UT + 2: today's noon is 11 March, 10:00 UT.
-        e.ZonaHoraria = 1;
+        FijaLugar(e, c.TablaPlanetas, {e.Longitud, e.Latitud, 1, e.HorarioVerano});
         h.setReloj([] { return Reloj(2460379.5) + 23.5 / 24; });
         h.pulsador(42)->pulsa();
         EXPECT_NEAR(e.FechaJuliana, 2460380.5 + 10.0 / 24, 1e-9);
@@ -293,7 +292,7 @@ TEST_F(FormaHora, AhoraNoDependeDeLaZonaDelOrdenador) {
 
 TEST_F(FormaHora, PasosDeAnoSinAnoCero) {
     e.TipoPaso = 1;
-    e.FechaJuliana = Juliana(1, 1, 1, 12, 0);
+    FijaFechaJuliana(e, c.TablaPlanetas, Juliana(1, 1, 1, 12, 0));
     Hora h(ctx);
     PulsaTecla(h.tecla(4), f, controles, false, 1);
     EXPECT_EQ(h.ano(0)->text().trimmed(), "-1");
@@ -312,7 +311,7 @@ TEST_F(FormaHora, PasosDeAnoSinAnoCero) {
 }
 
 TEST_F(FormaHora, TeclaSostenidaYPasosSidereos) {
-    e.FechaJuliana = Juliana(2000, 1, 1, 12, 0);
+    FijaFechaJuliana(e, c.TablaPlanetas, Juliana(2000, 1, 1, 12, 0));
     Hora h(ctx);
     Clic(h.siderales(), QPoint(5, 5));
     EXPECT_EQ(e.TipoPaso, 0);
@@ -341,7 +340,7 @@ TEST_F(FormaHora, TeclaSostenidaYPasosSidereos) {
 }
 
 TEST_F(FormaHora, LoEscritoSinSalirNoSePierde) {
-    e.FechaJuliana = Juliana(2000, 1, 1, 12, 0);
+    FijaFechaJuliana(e, c.TablaPlanetas, Juliana(2000, 1, 1, 12, 0));
     Hora h(ctx);
     // Typed without leaving the field, then a step key: the year counts.
     h.ano(0)->selectAll();

@@ -9,6 +9,8 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "ContextoPrueba.h"
@@ -43,7 +45,7 @@ QImage Renderiza(const QString& pdf) {
 TEST(Impresor, AjustesYPaginaEnPdf) {
     pruebas::Falsos f;
     pruebas::EntornoDialogo d;
-    d.e.Elevacion = 1.2;
+    FijaVista(d.e, d.e.Direccion, 1.2);
     d.ctx.ActualizaCielo();
     Impresor forma(d.ctx);
     forma.show();

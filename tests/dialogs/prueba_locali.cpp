@@ -80,7 +80,7 @@ TEST(Locali, ZonaPropuestaPorCadaLugar) {
                  {Fila(c, "Londres"), 0.0f}};
     for (const Caso& caso : casos) {
         ASSERT_GE(caso.fila, 0);
-        d.e.ZonaHoraria = 9.5f;
+        FijaLugar(d.e, d.c.TablaPlanetas, {d.e.Longitud, d.e.Latitud, 9.5f, d.e.HorarioVerano});
         ClicLinea(l.lugares(), caso.fila);
         EXPECT_EQ(d.e.ZonaHoraria, caso.zona) << caso.fila;
         EXPECT_EQ(l.spin(27)->valor(), caso.zona);
@@ -99,9 +99,8 @@ TEST(Locali, AbrirYSalirConservaLaZonaRestaurada) {
     pruebas::EntornoDialogo d;
     // As a configuration leaves it: its place and its own zone.
     d.e.IndiceLugar = static_cast<int16_t>(Fila(d.c, "Madrid"));
-    d.e.Longitud = d.c.TablaCiudades[static_cast<std::size_t>(d.e.IndiceLugar)].Longitud;
-    d.e.Latitud = d.c.TablaCiudades[static_cast<std::size_t>(d.e.IndiceLugar)].Latitud;
-    d.e.ZonaHoraria = 2.0f;  // summer time entered as a zone
+    const Ciudad& lugar = d.c.TablaCiudades[static_cast<std::size_t>(d.e.IndiceLugar)];
+    FijaLugar(d.e, d.c.TablaPlanetas, {lugar.Longitud, lugar.Latitud, 2.0f, d.e.HorarioVerano});  // summer time entered as a zone
     Locali l(d.ctx);
     l.show();
     EXPECT_EQ(l.lugares()->currentRow(), d.e.IndiceLugar);
@@ -167,7 +166,7 @@ TEST(Locali, ElMapaEligeLugaresYPuntos) {
     const int adis = Fila(d.c, "Ad\xEDs Abeba");
     ASSERT_GE(adis, 0);
     const Ciudad& a = d.c.TablaCiudades[static_cast<std::size_t>(adis)];
-    d.e.ZonaHoraria = 5.0f;
+    FijaLugar(d.e, d.c.TablaPlanetas, {d.e.Longitud, d.e.Latitud, 5.0f, d.e.HorarioVerano});
     const QPoint sobreAdis = mapa->Punto(a.Longitud, a.Latitud).toPoint() + QPoint(1, 1);
     pruebas::Clic(mapa, sobreAdis);
     EXPECT_EQ(d.e.IndiceLugar, adis);

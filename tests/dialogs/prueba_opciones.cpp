@@ -13,6 +13,8 @@
 #include <fstream>
 #include <memory>
 
+#include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "config/LeeConfiguracion.h"
@@ -283,12 +285,12 @@ TEST_F(Configuraciones, ListaSoloLosArchivosDeConfiguracion) {
 
 TEST_F(Configuraciones, NombresFueraDeLaPaginaDeCodigos) {
     CargaGuar d(*ctx);
-    e.FechaJuliana = 2451545.0;
+    FijaFechaJuliana(e, c.TablaPlanetas, 2451545.0);
     d.nombre()->setText(QString::fromUtf8("Ωmega-copia"));
     Pulsa(d.guardar());
     EXPECT_TRUE(QFile::exists(dir.filePath(QString::fromUtf8("Ωmega-copia.ls1"))));
     EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("?mega-copia.ls1"))));
-    e.FechaJuliana = 0;
+    FijaFechaJuliana(e, c.TablaPlanetas, 0);
     d.nombre()->setText(QString::fromUtf8("Ωmega-copia.ls1"));
     Pulsa(d.cargar());
     EXPECT_DOUBLE_EQ(e.FechaJuliana, 2451545.0);
@@ -297,7 +299,7 @@ TEST_F(Configuraciones, NombresFueraDeLaPaginaDeCodigos) {
 
 TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
     CargaGuar d(*ctx);
-    e.FechaJuliana = 2451545.0;
+    FijaFechaJuliana(e, c.TablaPlanetas, 2451545.0);
     e.Capas.Galax = 1;
     d.nombre()->setText(QStringLiteral("Prueba"));
     Pulsa(d.guardar());
@@ -307,7 +309,7 @@ TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
     const std::string guardado = Lee("Prueba.ls1");
 
     // Saving again asks; Cancel leaves the file as it was.
-    e.FechaJuliana = 2400000.0;
+    FijaFechaJuliana(e, c.TablaPlanetas, 2400000.0);
     m.respuestas = {0};
     Pulsa(d.guardar());
     ASSERT_EQ(m.textos.size(), 1u);
@@ -334,8 +336,8 @@ TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
 // the screen stays as it was: the reader is not called.
 TEST_F(Configuraciones, NombreQueNoExisteNoCambiaNada) {
     CargaGuar d(*ctx);
-    e.FechaJuliana = 2451545.0;
-    e.Zoom = 7.0f;
+    FijaFechaJuliana(e, c.TablaPlanetas, 2451545.0);
+    FijaZoom(e, 7.0f);
     d.nombre()->setText(QStringLiteral("NoExiste"));
     Pulsa(d.cargar());
     ASSERT_EQ(m.textos.size(), 1u);

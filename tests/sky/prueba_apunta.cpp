@@ -78,7 +78,7 @@ TEST(Apunta, AStarEndsNearTheCentre) {
     double peor = 0;
     for (double ar = 0.1; ar < 6.28; ar += 0.37) {
         Estado e = Base();
-        e.Zoom = 2;
+        FijaZoom(e, 2);
         e.ObjetivoAR = ar;
         e.ObjetivoDEC = 0.3;
         Vector3f v = AngulosAVector(ar, 0.3);
@@ -96,8 +96,7 @@ TEST(Apunta, AStarEndsNearTheCentre) {
 
 TEST(Apunta, CursorTexts) {
     Estado e = Base();
-    e.Direccion = 3.1415926536;
-    e.Elevacion = 0.5;
+    FijaVista(e, PI, 0.5);
     GiraDireccion(e);
     TextosCursor fuera = InformeCursor(e, 0.9f, 0.9f);
     EXPECT_EQ(fuera.AR, " ");

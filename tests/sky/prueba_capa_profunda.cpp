@@ -50,12 +50,11 @@ struct Capa : ::testing::Test {
         e.Precesion = true;
         FijaFechaJuliana(e, c.TablaPlanetas, 2460880.528);
         Vector3f h = EcuatorialAHorizontal(e, AngulosAVector(310.35 * GRADO, 45.28 * GRADO));
-        e.Direccion = std::fmod(std::atan2(-double{h.x}, double{h.y}) + 2 * M_PI, 2 * M_PI);
-        e.Elevacion = std::asin(double{h.z});
+        FijaVista(e, std::fmod(std::atan2(-double{h.x}, double{h.y}) + 2 * M_PI, 2 * M_PI), std::asin(double{h.z}));
     }
 
     QImage Dibuja(float zoom, bool debiles) {
-        e.Zoom = zoom;
+        FijaZoom(e, zoom);
         OpcionesDibujo o;
         o.EstrellasDebiles = debiles;
         o.Profundas = &profundas;

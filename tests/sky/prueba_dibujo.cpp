@@ -76,10 +76,10 @@ void Dibuja(Estado& e, Lienzo& l) { ActualizaCielo(e, Datos(), l); }
 // Turns the view toward an equatorial direction of the date.
 void MiraA(Estado& e, const Vector3f& v, float zoom) {
     Vector3f h = EcuatorialAHorizontal(e, v);  // x west, y north, z zenith
-    e.Direccion = std::atan2(-double{h.x}, double{h.y});
-    if (e.Direccion < 0) e.Direccion += 2 * M_PI;
-    e.Elevacion = std::asin(double{h.z});
-    e.Zoom = zoom;
+    double direccion = std::atan2(-double{h.x}, double{h.y});
+    if (direccion < 0) direccion += 2 * M_PI;
+    FijaVista(e, direccion, std::asin(double{h.z}));
+    FijaZoom(e, zoom);
 }
 
 }  // namespace
@@ -93,7 +93,7 @@ TEST(Dibujo, LayersOffGiveABlackPictureAndEachLayerDrawsAlone) {
 
     auto conCapa = [&](auto enciende) {
         Estado s = Apagado();
-        s.Elevacion = 0.9;
+        FijaVista(s, s.Direccion, 0.9);
         enciende(s);
         Dibuja(s, l);
         return PixelesEncendidos(l.Imagen());
@@ -103,7 +103,7 @@ TEST(Dibujo, LayersOffGiveABlackPictureAndEachLayerDrawsAlone) {
     EXPECT_GT(conCapa([](Estado& s) { s.Capas.Horiz = 1; }), 50);
     EXPECT_GT(conCapa([](Estado& s) { s.Capas.ARDEC15 = 1; }), 50);
     EXPECT_GT(conCapa([](Estado& s) { s.Capas.LimCo = 1; }), 50);
-    EXPECT_GT(conCapa([](Estado& s) { s.Capas.Eclip = 1; s.Elevacion = 0.6; }), 10);
+    EXPECT_GT(conCapa([](Estado& s) { s.Capas.Eclip = 1; FijaVista(s, s.Direccion, 0.6); }), 10);
     EXPECT_GT(conCapa([](Estado& s) { s.Capas.Galax = 1; s.NivelGalaxias = 4; }), 20);
 }
 
@@ -112,11 +112,10 @@ TEST(Dibujo, AStarIsDrawnWhereItProjectsAndNowhereElse) {
     Lienzo l(800, 600);
     Estado e = Apagado();
     e.NivelEstrellas = 0;
-    e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(2024, 1, 15, 23, 0));  // Sirius high in the south
-    e.Latitud = 0.7;
-    e.Longitud = 0.06;
-    e.Elevacion = 0.5;
-    e.Zoom = 1;
+    FijaFechaJuliana(e, Datos().TablaPlanetas, FechaAJuliana(ArmaCadenaFecha(2024, 1, 15, 23, 0)));  // Sirius high in the south
+    FijaLugar(e, Datos().TablaPlanetas, {0.06, 0.7, e.ZonaHoraria, e.HorarioVerano});
+    FijaVista(e, e.Direccion, 0.5);
+    FijaZoom(e, 1);
     // Render with the star layer on; compute where Sirius must fall independently
     // of the drawing: its catalogue direction through the projection.
     e.NivelEstrellas = 1;
@@ -148,7 +147,7 @@ TEST(Dibujo, DaylightFollowsTheSunsAltitude) {
     for (int hora = 0; hora < 24; hora += 1) {
         Estado e = Apagado();
         e.Capas.LuzDi = 1;
-        e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(2024, 3, 20, hora, 0));
+        FijaFechaJuliana(e, Datos().TablaPlanetas, FechaAJuliana(ArmaCadenaFecha(2024, 3, 20, hora, 0)));
         Dibuja(e, l);
         // The Sun's altitude from its right ascension and declination.
         HallaSolAparente(e);
@@ -199,9 +198,9 @@ namespace {
 void CentraEn(Estado& e, const Vector3f& v) {
     ActualizaTiempo(e, Datos().TablaPlanetas);
     Vector3f h = EcuatorialAHorizontal(e, v);
-    e.Elevacion = std::asin(h.z);
-    e.Direccion = std::atan2(-h.x, h.y);
-    if (e.Direccion < 0) e.Direccion += 2 * M_PI;
+    double direccion = std::atan2(-h.x, h.y);
+    if (direccion < 0) direccion += 2 * M_PI;
+    FijaVista(e, direccion, std::asin(h.z));
 }
 
 // Lit pixels in the row run through the picture's centre.
@@ -226,8 +225,8 @@ TEST(Dibujo, SymbolsGrowWithTheZoomAndStarDotsFollowTheirWidthRule) {
     for (float zoom : {1.0f, 4.0f, 10.0f}) {
         Estado e = Apagado();
         e.NivelEstrellas = 1;
-        e.Zoom = zoom;
-        e.FechaJuliana = 2460000.5;
+        FijaZoom(e, zoom);
+        FijaFechaJuliana(e, Datos().TablaPlanetas, 2460000.5);
         CentraEn(e, brillante.Direccion);
         Dibuja(e, l);
         int esperado = static_cast<int>(std::nearbyint((7 - brillante.Magnitud) * 0.07 * zoom + 1));
@@ -240,8 +239,8 @@ TEST(Dibujo, SymbolsGrowWithTheZoomAndStarDotsFollowTheirWidthRule) {
         Estado e = Apagado();
         e.Capas.CumGl = 1;
         e.NivelCumGlobulares = 1;
-        e.Zoom = zoom;
-        e.FechaJuliana = 2460000.5;
+        FijaZoom(e, zoom);
+        FijaFechaJuliana(e, Datos().TablaPlanetas, 2460000.5);
         CentraEn(e, g.Direccion);
         Dibuja(e, l);
         return RunCentral(l.Imagen(), 60);
@@ -260,7 +259,7 @@ TEST(Dibujo, TheMirroredSkyKeepsTrueAzimuths) {
     for (int16_t orientacion : {int16_t{1}, int16_t{0}}) {
         Estado e = Apagado();
         e.Orientacion = orientacion;
-        e.Zoom = 2;
+        FijaZoom(e, 2);
         ActualizaTiempo(e, Datos().TablaPlanetas);
         AjustaEscalaLienzo(e, l);
         GiraDireccion(e);
@@ -305,9 +304,8 @@ TEST(Dibujo, TheSunIsDrawnAtItsPlaceOfDateInAntiquity) {
     Estado e = Apagado();
     e.Capas.Sol = 1;
     e.Precesion = true;
-    e.Latitud = 39.86 * ERFA_DD2R;
-    e.Longitud = 4.02 * ERFA_DD2R;  // west positive
-    e.FechaJuliana = FechaAJuliana(ArmaCadenaFecha(1000, 1, 2, 12, 0));
+    FijaLugar(e, Datos().TablaPlanetas, {4.02 * ERFA_DD2R, 39.86 * ERFA_DD2R, e.ZonaHoraria, e.HorarioVerano});  // west positive
+    FijaFechaJuliana(e, Datos().TablaPlanetas, FechaAJuliana(ArmaCadenaFecha(1000, 1, 2, 12, 0)));
     ASSERT_NEAR(e.FechaJuliana, 2086309.0, 1e-6);  // Julian calendar
     double u = (1000.0 - 1820.0) / 100.0, tt = e.FechaJuliana + (-20.0 + 32.0 * u * u) / 86400.0;
     double pvh[2][3], pvb[2][3], p[3], rnp[3][3], ar, dec;
@@ -339,10 +337,10 @@ TEST(Dibujo, TheMoonsShapeShowsTheMiddleOfItsPhaseStep) {
     Lienzo l(800, 600);
     Estado e = Apagado();
     e.Capas.Luna = 1;
-    e.Latitud = 0.7;
+    FijaLugar(e, Datos().TablaPlanetas, {e.Longitud, 0.7, e.ZonaHoraria, e.HorarioVerano});
     double elongacion = 0;
     for (double jd = 2460310.5; jd < 2460345.5; jd += 0.25) {
-        e.FechaJuliana = jd;
+        FijaFechaJuliana(e, Datos().TablaPlanetas, jd);
         Dibuja(e, l);
         const PosicionCuerpo& s = e.Planetas[10];
         const PosicionCuerpo& m = e.Planetas[11];

@@ -66,16 +66,15 @@ double Separacion(double a1, double d1, double a2, double d2) { return eraSeps(a
 Estado MirandoA(const Catalogos& c, std::size_t i, double jd, float zoom) {
     Estado e;
     e.Pref.PrecisionAlta = true;
-    e.Latitud = 0.7;
-    e.Longitud = 0.06;
+    FijaLugar(e, c.TablaPlanetas, {0.06, 0.7, e.ZonaHoraria, e.HorarioVerano});
     FijaFechaJuliana(e, c.TablaPlanetas, jd);
     Vector3f v = DireccionesEnFecha(c.MovEstrellas, AnosMovimientoPropio(e))(i, c.TablaEstrellas[i].Direccion);
     AplicaPrecesion(e, v);
     Vector3f h = EcuatorialAHorizontal(e, v);
-    e.Direccion = std::atan2(-double{h.x}, double{h.y});
-    if (e.Direccion < 0) e.Direccion += 2 * M_PI;
-    e.Elevacion = std::max(0.0, std::asin(double{h.z}));
-    e.Zoom = zoom;
+    double direccion = std::atan2(-double{h.x}, double{h.y});
+    if (direccion < 0) direccion += 2 * M_PI;
+    FijaVista(e, direccion, std::max(0.0, std::asin(double{h.z})));
+    FijaZoom(e, zoom);
     GiraDireccion(e);
     return e;
 }

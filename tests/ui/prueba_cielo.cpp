@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QTimer>
 
+#include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "EntornoQt.h"
 #include "CatalogosPrueba.h"
 #include "Falsos.h"
@@ -47,7 +49,7 @@ struct Ventana {
     DialogosCielo dialogos;
     std::unique_ptr<Cielo> cielo;
     Ventana() {
-        e.FechaJuliana = 2460700.5;
+        FijaFechaJuliana(e, Datos().TablaPlanetas, 2460700.5);
         dialogos.Mensaje = [this](QWidget* p, const std::string& t, const std::string& ti, int16_t b, int16_t i) {
             return MuestraMensaje(e, k, p, t, ti, b, i);
         };
@@ -72,29 +74,29 @@ struct Ventana {
 TEST(Cielo, DirectionWrapsFrom359To1AndBack) {
     Ventana v;
     const double paso = DOS_PI / 360;
-    v.e.Direccion = 359 * paso;
+    FijaVista(v.e, 359 * paso, v.e.Elevacion);
     v.Pulsa(1, 40, 1);
     EXPECT_DOUBLE_EQ(v.e.Direccion, paso);  // never shows 0
-    v.e.Direccion = 0;
+    FijaVista(v.e, 0, v.e.Elevacion);
     v.Pulsa(1, 12, 1);
     EXPECT_DOUBLE_EQ(v.e.Direccion, DOS_PI - paso);
-    v.e.Direccion = 3.0;
+    FijaVista(v.e, 3.0, v.e.Elevacion);
     v.Pulsa(1, 40, 5);
     EXPECT_NEAR(v.e.Direccion, 3.0 + 5 * paso, 1e-12);
 }
 
 TEST(Cielo, ElevationAndZoomStopAtTheirLimits) {
     Ventana v;
-    v.e.Elevacion = MEDIO_PI - 0.001;
+    FijaVista(v.e, v.e.Direccion, MEDIO_PI - 0.001);
     v.Pulsa(2, 40, 3);
     EXPECT_EQ(v.e.Elevacion, MEDIO_PI);
-    v.e.Elevacion = 0.01;
+    FijaVista(v.e, v.e.Direccion, 0.01);
     v.Pulsa(2, 12, 3);
     EXPECT_EQ(v.e.Elevacion, 0.0);
-    v.e.Zoom = 14.5f;
+    FijaZoom(v.e, 14.5f);
     v.Pulsa(3, 40, 4);
     EXPECT_EQ(v.e.Zoom, 15.0f);
-    v.e.Zoom = 1.5f;
+    FijaZoom(v.e, 1.5f);
     v.Pulsa(3, 12, 4);
     EXPECT_EQ(v.e.Zoom, 1.0f);
 }

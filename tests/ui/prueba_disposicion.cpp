@@ -14,6 +14,8 @@
 #include <QScrollArea>
 #include <QTemporaryDir>
 
+#include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "../dialogs/ContextoPrueba.h"
 #include "EntornoQt.h"
 #include "Falsos.h"
@@ -103,12 +105,11 @@ TEST(Disposicion, EnElTamanoMinimoNadaSeCorta) {
     Estado& e = p.e;
     // The widest texts the fields can get: the earliest year, AM/PM, the
     // longest place name, a south-western direction and the greatest zoom.
-    e.FechaJuliana = 0.4;
+    FijaFechaJuliana(e, pruebas::CatalogosDatos().TablaPlanetas, 0.4);
     e.FormatoHora = 2;
-    e.Direccion = 225 * GRADO;
-    e.Longitud = -179.99 * GRADO;
-    e.Latitud = -89.99 * GRADO;
-    e.Zoom = 15.0f;
+    FijaVista(e, 225 * GRADO, e.Elevacion);
+    FijaLugar(e, pruebas::CatalogosDatos().TablaPlanetas, {-179.99 * GRADO, -89.99 * GRADO, e.ZonaHoraria, e.HorarioVerano});
+    FijaZoom(e, 15.0f);
     const auto& ciudades = pruebas::CatalogosDatos().TablaCiudades;
     std::size_t larga = 0;
     for (std::size_t i = 0; i < ciudades.size(); ++i)

@@ -24,11 +24,10 @@ namespace {
 // the horizon is in the picture.
 Estado Cenit(double jd, double lonEste, double lat) {
     Estado e;
-    e.FechaJuliana = jd;
-    e.Longitud = -lonEste * GRADO;
-    e.Latitud = lat * GRADO;
-    e.Elevacion = MEDIO_PI;
-    e.Zoom = 1.0f;
+    FijaFechaJuliana(e, pruebas::CatalogosDatos().TablaPlanetas, jd);
+    FijaLugar(e, pruebas::CatalogosDatos().TablaPlanetas, {-lonEste * GRADO, lat * GRADO, e.ZonaHoraria, e.HorarioVerano});
+    FijaVista(e, e.Direccion, MEDIO_PI);
+    FijaZoom(e, 1.0f);
     return e;
 }
 

@@ -6,6 +6,8 @@
 #include <QWheelEvent>
 #include <cmath>
 
+#include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "EntornoQt.h"
 #include "CatalogosPrueba.h"
 #include "Falsos.h"
@@ -28,11 +30,10 @@ struct Ventana {
     std::unique_ptr<Cielo> cielo;
     Ventana() {
         pruebas::AseguraAplicacion();
-        e.FechaJuliana = 2460700.5;
-        e.Latitud = 40.4 * GRADO;
-        e.Direccion = 3.0;
-        e.Elevacion = 0.5;
-        e.Zoom = 3.0f;
+        FijaFechaJuliana(e, Datos().TablaPlanetas, 2460700.5);
+        FijaLugar(e, Datos().TablaPlanetas, {e.Longitud, 40.4 * GRADO, e.ZonaHoraria, e.HorarioVerano});
+        FijaVista(e, 3.0, 0.5);
+        FijaZoom(e, 3.0f);
         e.PanelCursor = true;
         cielo = std::make_unique<Cielo>(e, k, Datos(), DialogosCielo{});
         cielo->show();

@@ -12,6 +12,8 @@
 #include <QTimer>
 #include <functional>
 
+#include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "EntornoQt.h"
 #include "CatalogosPrueba.h"
 #include "Falsos.h"
@@ -48,7 +50,7 @@ protected:
         ASSERT_TRUE(carpeta.isValid());
         e.DirArchivo = carpeta.path().toStdString() + "/";
         e.Velocidad = 100;
-        e.FechaJuliana = 2460700.5;
+        FijaFechaJuliana(e, Datos().TablaPlanetas, 2460700.5);
         DialogosCielo d;
         d.CargaGuar = AbreCargaGuar;
         d.Personal = AbrePersonal;
@@ -156,8 +158,8 @@ TEST_F(Ventana, LocalizacionObjetosYPersonalizacionDejanElCieloDibujado) {
 // restore.
 TEST_F(Ventana, LasConfiguracionesDejanElCieloDibujadoYUnNombreMaloNoCambiaNada) {
     Estado otro = e;
-    otro.FechaJuliana = 2451545.0;
-    otro.Direccion = 1.0;
+    FijaFechaJuliana(otro, Datos().TablaPlanetas, 2451545.0);
+    FijaVista(otro, 1.0, otro.Elevacion);
     MensajesVentana m(otro, k, nullptr);
     ASSERT_TRUE(EscribeConfiguracion(otro, "Prueba", m, false).escrito);
 

@@ -7,6 +7,7 @@
 #include "app/base/Constantes.h"
 #include "catalogue/ArchivoRegistros.h"
 #include "app/base/TextosAngulo.h"
+#include "app/estado/Astros.h"
 #include "app/estado/Tiempo.h"
 
 namespace vedrano {
@@ -27,12 +28,12 @@ double Distancia(double lon1, double lat1, double lon2, double lat2) {
 
 }  // namespace
 
-float ZonaPropuesta(Estado& e, const std::string& nombre) {
-    double zona = std::floor((std::abs(GradosLongitud(e.Longitud)) + 22.5) / 15.0) - 1.0;
-    if (e.Longitud < PI) zona = -zona;
+float ZonaPropuesta(double longitud, const std::string& nombre) {
+    double zona = std::floor((std::abs(GradosLongitud(longitud)) + 22.5) / 15.0) - 1.0;
+    if (longitud < PI) zona = -zona;
     if (EsEspanol(nombre)) {
         zona = 1.0;
-        if (e.Longitud > 0.19 && e.Longitud < 6.0) zona = 0.0;
+        if (longitud > 0.19 && longitud < 6.0) zona = 0.0;
     }
     return zona == 0.0 ? 0.0f : static_cast<float>(zona);
 }
@@ -47,14 +48,15 @@ bool EligeLugar(Estado& e, const Catalogos& c, int i, bool restaurando) {
     if (i < 0 || i >= N_CIUDADES || static_cast<std::size_t>(i) >= c.TablaCiudades.size()) return false;
     const Ciudad& lugar = c.TablaCiudades[static_cast<std::size_t>(i)];
     e.IndiceLugar = static_cast<int16_t>(i);
-    e.Longitud = lugar.Longitud;
-    e.Latitud = lugar.Latitud;
+    Observador o = ObservadorDe(e);
+    o.Longitud = lugar.Longitud;
+    o.Latitud = lugar.Latitud;
     const std::string nombre = lugar.Nombre.texto();
     if (!restaurando) {
         e.TextoLugar = TextoLugarCiudad(nombre);
-        e.ZonaHoraria = ZonaPropuesta(e, nombre);
+        o.ZonaHoraria = ZonaPropuesta(o.Longitud, nombre);
     }
-    ActualizaLugar(e, c.TablaPlanetas);
+    FijaLugar(e, c.TablaPlanetas, o);
     return true;
 }
 
@@ -78,11 +80,12 @@ int LugarCercano(const std::vector<Ciudad>& lugares, double longitudOeste, doubl
 
 void FijaPuntoPropio(Estado& e, const Catalogos& c, double longitudOeste, double latitud) {
     e.IndiceLugar = static_cast<int16_t>(LugarCercano(c.TablaCiudades, longitudOeste, latitud));
-    e.Longitud = longitudOeste;
-    e.Latitud = latitud;
     e.TextoLugar = "Lugar propio";
-    e.ZonaHoraria = ZonaPropuesta(e, std::string());
-    ActualizaLugar(e, c.TablaPlanetas);
+    Observador o = ObservadorDe(e);
+    o.Longitud = longitudOeste;
+    o.Latitud = latitud;
+    o.ZonaHoraria = ZonaPropuesta(longitudOeste, std::string());
+    FijaLugar(e, c.TablaPlanetas, o);
 }
 
 double GradosOeste(double longitud) {

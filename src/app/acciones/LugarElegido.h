@@ -15,10 +15,10 @@ namespace vedrano {
 // the zone.
 bool EligeLugar(Estado& e, const Catalogos& c, int i, bool restaurando);
 
-// The zone for the state's longitude: whole hours from the whole degrees
-// of longitude, west negative; +1 for a Spanish place ("ESP" in the name),
-// 0 for one of the Canary Islands.
-float ZonaPropuesta(Estado& e, const std::string& nombreCp1252);
+// The zone for a longitude (radians, west positive): whole hours from the
+// whole degrees of longitude, west negative; +1 for a Spanish place ("ESP"
+// in the name), 0 for one of the Canary Islands.
+float ZonaPropuesta(double longitud, const std::string& nombreCp1252);
 
 // A point of the map that is no listed place: its coordinates, the zone
 // its longitude proposes, and the nearest place kept as the place index.

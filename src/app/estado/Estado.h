@@ -4,11 +4,15 @@
 // holds the program's defaults (those used when no configuration is read;
 // the configuration reader takes them from here).
 //
-// The derived values follow the fields they come from through the setters
-// beside the state: the instant is set with FijaFechaJuliana (the time
-// refresh), a change of place or zone is followed by ActualizaLugar (the
-// sidereal time), the view is set with FijaVista (the turned azimuth); the
-// rendering pass refreshes all of them once more before it draws.
+// The derived values follow the fields they come from through setters, and
+// the compiler holds every writer to them (app/estado/Fijado.h): the
+// instant is set with FijaFechaJuliana (the time refresh), the place, zone
+// and summer time with FijaLugar (the sidereal time), the view with
+// FijaVista (the turned azimuth) and the zoom with FijaZoom (the scale, for
+// the picture size of the last pass); the rendering pass refreshes all of
+// them once more before it draws. The caches of the projection are plain
+// fields filled through a writable state, never through a const one
+// (app/estado/Derivados.h).
 #pragma once
 #include <array>
 #include <cstdint>
@@ -18,6 +22,7 @@
 #include "astro/Coordenadas.h"
 #include "astro/Cuerpos.h"
 #include "app/estado/Derivados.h"
+#include "app/estado/Fijado.h"
 #include "app/estado/Preferencias.h"
 
 namespace vedrano {
@@ -47,9 +52,11 @@ struct PanelInformacion {
 
 struct Estado {
     // Time.
-    double FechaJuliana = 2482294.0;  // 9 March 2084, 12:00 UT
-    float ZonaHoraria = 0.0f;
-    bool HorarioVerano = false;
+    // FechaJuliana, the place and its zone, the view and the zoom are set
+    // through their setters only (app/estado/Fijado.h).
+    Fijado<double> FechaJuliana{2482294.0};  // 9 March 2084, 12:00 UT
+    Fijado<float> ZonaHoraria{0.0f};
+    Fijado<bool> HorarioVerano{false};
     int16_t FormatoHora = 1;
     int16_t PasoUnidad = 1;
     int16_t PasoCantidad = 1;
@@ -64,8 +71,8 @@ struct Estado {
 
     // Place.
     int16_t IndiceLugar = 95;
-    double Longitud = 0.0829029977321625;  // radians, west positive
-    double Latitud = 0.640890002250671;    // radians, north positive
+    Fijado<double> Longitud{0.0829029977321625};  // radians, west positive
+    Fijado<double> Latitud{0.640890002250671};    // radians, north positive
     std::string TextoLugar;
 
     // Sky quantities derived from time and place.
@@ -76,14 +83,15 @@ struct Estado {
     std::array<PosicionCuerpo, 12> Planetas;  // index 3 Earth (the Sun's results), 10 Sun, 11 Moon
 
     // View.
-    double Direccion = PI;  // looking south
-    double Elevacion = ELEVACION_INICIAL;
-    float Zoom = 2.0f;
+    Fijado<double> Direccion{PI};  // looking south
+    Fijado<double> Elevacion{ELEVACION_INICIAL};
+    Fijado<float> Zoom{2.0f};
     int16_t Orientacion = 1;
     double DireccionGirada = 0;
     float Umbral = 0;
     // The user scale of the sky picture, as read back after being set.
     float EscalaIzquierda = 0, EscalaSuperior = 0, EscalaAncho = 0, EscalaAlto = 0;
+    int AnchoImagen = 0, AltoImagen = 0;  // pixels of the picture the scale was set for (0: none)
 
     // Star and constellation levels and identification choices, and the
     // detail levels of the deep-sky categories.

@@ -30,8 +30,16 @@ void ActualizaTiempo(Estado& e, const TablaPlanetas& planetas) {
 }
 
 void FijaFechaJuliana(Estado& e, const TablaPlanetas& planetas, double jd) {
-    e.FechaJuliana = jd;
+    e.FechaJuliana.Fija(LlaveEstado{}, jd);
     ActualizaTiempo(e, planetas);
+}
+
+void FijaLugar(Estado& e, const TablaPlanetas& planetas, const Observador& o) {
+    e.Longitud.Fija(LlaveEstado{}, o.Longitud);
+    e.Latitud.Fija(LlaveEstado{}, o.Latitud);
+    e.ZonaHoraria.Fija(LlaveEstado{}, o.ZonaHoraria);
+    e.HorarioVerano.Fija(LlaveEstado{}, o.HorarioVerano);
+    ActualizaLugar(e, planetas);
 }
 
 void FijaPaso(Estado& e, int signo) {

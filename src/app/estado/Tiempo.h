@@ -13,13 +13,17 @@ namespace vedrano {
 void ActualizaTiempo(Estado& e, const TablaPlanetas& planetas);
 
 // The refresh after a change of place (or of its zone): the date texts and
-// the sidereal time with the Sun, by the model in use. Every writer of
-// Longitud, Latitud or ZonaHoraria runs it afterwards.
+// the sidereal time with the Sun, by the model in use. FijaLugar runs it.
 void ActualizaLugar(Estado& e, const TablaPlanetas& planetas);
 
-// Sets the instant and runs the refresh, as every change of FechaJuliana
-// must: callers set the instant through here, not by writing the field.
+// Sets the instant and runs the refresh (ActualizaTiempo). FechaJuliana is
+// written only here (app/estado/Fijado.h).
 void FijaFechaJuliana(Estado& e, const TablaPlanetas& planetas, double jd);
+
+// Sets the place, its zone and summer time (ObservadorDe gives the present
+// ones to change one of them) and runs ActualizaLugar. Longitud, Latitud,
+// ZonaHoraria and HorarioVerano are written only here.
+void FijaLugar(Estado& e, const TablaPlanetas& planetas, const Observador& o);
 
 // One step of PasoCantidad units of PasoUnidad in the direction of the sign
 // of PasoDias. Units 10..12 move the calendar year and keep day, month and

@@ -77,12 +77,11 @@ bool HorizonteEn(const Estado& e, float X, float Y, PuntoHorizonte& h) {
 bool LlevaPunto(Estado& e, const PuntoHorizonte& h, float X, float Y) {
     // The place under (X, Y) moves with the view almost one to one in both
     // angles; three corrections bring it within a fraction of a pixel.
-    const double direccion = e.Direccion, elevacion = e.Elevacion;
     for (int vuelta = 0; vuelta < 3; ++vuelta) {
         PuntoHorizonte ahora;
         if (!HorizonteEn(e, X, Y, ahora)) {
+            // Before the first correction the view has not moved: it stays.
             if (vuelta > 0) break;
-            e.Direccion = direccion, e.Elevacion = elevacion;
             return false;
         }
         const double dAz = std::remainder(h.azimut - ahora.azimut, DOS_PI);

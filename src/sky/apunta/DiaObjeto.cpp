@@ -96,9 +96,10 @@ DiaObjeto HallaDia(const Estado& e, const TablaPlanetas& planetas, const ObjetoD
         // A fixed place moves only by precession: once for the day's middle.
         Ecuatorial fijo{o.ar, o.dec};
         if (PrecesaCatalogo(e)) {
+            // The precession angles come with the instant's refresh (the
+            // switch is on when the precise model is not).
             Estado medio = e;
-            medio.FechaJuliana = d.jdInicio + 0.5;
-            HallaPrecesion(medio);
+            FijaFechaJuliana(medio, planetas, d.jdInicio + 0.5);
             Vector3f v = MueveDireccion(AngulosAVector(o.ar, o.dec), o.movimiento, AnosMovimientoPropio(medio));
             LugarDeFecha(medio, v);
             VectorAAngulos(v, fijo.ar, fijo.dec);

@@ -358,25 +358,4 @@ void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, flo
     }
 }
 
-void AjustaEscala(Estado& e, int anchoPixeles, int altoPixeles) {
-    float signo = e.Orientacion == 1 ? 1.0f : -1.0f;
-    float alto = ASingle(-2.6 / e.Zoom);
-    float ancho = ASingle(signo * (3.4666667 / e.Zoom));
-    if (anchoPixeles > 0 && altoPixeles > 0) {
-        // Same scale across and down: extend the longer side past 4:3.
-        double proporcion = static_cast<double>(anchoPixeles) / altoPixeles;
-        double base = 3.4666667 / 2.6;
-        if (proporcion > base)
-            ancho = ASingle(signo * (2.6 * proporcion / e.Zoom));
-        else if (proporcion < base)
-            alto = ASingle(-(3.4666667 / proporcion) / e.Zoom);
-    }
-    e.EscalaAlto = alto;
-    e.EscalaAncho = ancho;
-    e.EscalaIzquierda = -e.EscalaAncho / 2;
-    e.EscalaSuperior = -e.EscalaAlto / 2;
-    double q = 1.0 - double(e.EscalaIzquierda) * e.EscalaIzquierda - double(e.EscalaSuperior) * e.EscalaSuperior;
-    e.Umbral = q >= 0 ? static_cast<float>(std::sqrt(q)) : 0.0f;
-}
-
 }  // namespace vedrano

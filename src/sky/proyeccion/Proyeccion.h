@@ -94,13 +94,6 @@ PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h);
 void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, float& altitud,
                  float& azimut);
 
-// The user scale from the zoom and the orientation flag, and the depth
-// threshold below which a point cannot fall inside the picture. With a
-// picture size the scale extends on the longer side so that one unit stays
-// the same number of pixels across and down; without one (or at 4:3) it
-// spans exactly +-1.7333 x +-1.3 at zoom 1.
-void AjustaEscala(Estado& e, int anchoPixeles = 0, int altoPixeles = 0);
-
 // True when a projected point is drawn: only a depth strictly below the
 // threshold hides it.
 inline bool EsVisible(const Estado& e, const PuntoProyectado& p) { return !(p.Z < e.Umbral); }

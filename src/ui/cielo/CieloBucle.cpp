@@ -67,27 +67,32 @@ void Cielo::PasoTecla(int i, int signo) {
 
 void Cielo::PasoVista(int i, int signo) {
     switch (i) {
-        case 1:  // direction: from 359 degrees upward the next is 1, never 0
-            e_.Direccion += signo * PASO_GRADO;
-            if (e_.Direccion < 0)
-                e_.Direccion = DOS_PI - PASO_GRADO;
-            else if (e_.Direccion >= DOS_PI)
-                e_.Direccion = PASO_GRADO;
-            GiraDireccion(e_);
+        case 1: {  // direction: from 359 degrees upward the next is 1, never 0
+            double d = e_.Direccion + signo * PASO_GRADO;
+            if (d < 0)
+                d = DOS_PI - PASO_GRADO;
+            else if (d >= DOS_PI)
+                d = PASO_GRADO;
+            FijaVista(e_, d, e_.Elevacion);
             vista_->DibujaCielo();
             break;
-        case 2:
-            e_.Elevacion += signo * PASO_GRADO;
-            if (e_.Elevacion < 0) e_.Elevacion = 0;
-            if (e_.Elevacion > MEDIO_PI) e_.Elevacion = MEDIO_PI;
+        }
+        case 2: {
+            double a = e_.Elevacion + signo * PASO_GRADO;
+            if (a < 0) a = 0;
+            if (a > MEDIO_PI) a = MEDIO_PI;
+            FijaVista(e_, e_.Direccion, a);
             vista_->DibujaCielo();
             break;
-        case 3:
-            e_.Zoom += static_cast<float>(signo * 0.5);
-            if (e_.Zoom < 1.0f) e_.Zoom = 1.0f;
-            if (e_.Zoom > 15.0f) e_.Zoom = 15.0f;
+        }
+        case 3: {
+            float z = e_.Zoom + static_cast<float>(signo * 0.5);
+            if (z < 1.0f) z = 1.0f;
+            if (z > 15.0f) z = 15.0f;
+            FijaZoom(e_, z);
             vista_->DibujaCielo();
             break;
+        }
         case 4:
             AvanzaTiempo(e_, c_.TablaPlanetas);
             break;

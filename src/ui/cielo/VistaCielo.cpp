@@ -197,7 +197,7 @@ void VistaCielo::wheelEvent(QWheelEvent* ev) {
     QPointF u = AUsuario(pixel);
     PuntoHorizonte bajo;
     const bool fijo = HorizonteEn(e_, static_cast<float>(u.x()), static_cast<float>(u.y()), bajo);
-    e_.Zoom = zoom;
+    FijaZoom(e_, zoom);
     AjustaEscalaLienzo(e_, lienzo_);
     if (fijo) {
         // The place under the pointer stays under it.
