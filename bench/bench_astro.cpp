@@ -47,6 +47,8 @@ void BM_PrecesionYHorizonte(benchmark::State& s) {
     e.Precesion = true;
     HallaPrecesion(e);
     e.TiempoSidereo = 1.234;
+    PreparaPrecesion(e);  // per star, the cached rotations only
+    PreparaHorizonte(e);
     std::mt19937 gen(7);
     std::uniform_real_distribution<double> ua(0, 6.283), ud(-1.5, 1.5);
     std::vector<Vector3f> estrellas;

@@ -11,7 +11,7 @@ constexpr double SEGUNDO = 1.0 / 86400.0;
 
 // Hour angle in (-pi, pi].
 double AnguloHorario(const Ecuatorial& p, double sidereo) {
-    return std::remainder(sidereo - p.ar, 2 * M_PI);
+    return std::remainder(sidereo - p.ar, 2 * PI_COMPLETO);
 }
 
 // The root of f between a and b (f(a), f(b) of opposite signs), to a second.
@@ -57,7 +57,7 @@ OrtoTransitoOcaso HallaOrtoOcaso(double jdInicio, double latitud, double h0, con
         if (a0 > 0 && a1 <= 0 && !r.ocaso.hay) r.ocaso = {true, Biseca(sobre, t0, t1, a0)};
         // The upper transit: the hour angle passes 0 going up (its jump
         // from +pi to -pi is the lower transit and is left aside).
-        if (H0 < 0 && H1 >= 0 && H1 - H0 < M_PI && !r.transito.hay)
+        if (H0 < 0 && H1 >= 0 && H1 - H0 < PI_COMPLETO && !r.transito.hay)
             r.transito = {true, Biseca(horario, t0, t1, H0)};
         t0 = t1, a0 = a1, H0 = H1;
     }

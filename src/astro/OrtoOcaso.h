@@ -5,6 +5,8 @@
 #pragma once
 #include <functional>
 
+#include "app/base/Constantes.h"
+
 namespace vedrano {
 
 // Right ascension and declination of the date, radians.
@@ -20,11 +22,11 @@ using SidereoEn = std::function<double(double jd)>;
 // Standard altitudes of the upper limb or centre at the visible rising,
 // refraction included (radians).
 namespace altura {
-inline constexpr double ESTRELLA = -0.5667 * 0.01745329252;  // refraction 34'
-inline constexpr double SOL = -0.8333 * 0.01745329252;       // 34' and the Sun's semidiameter 16'
-inline constexpr double CIVIL = -6 * 0.01745329252;
-inline constexpr double NAUTICO = -12 * 0.01745329252;
-inline constexpr double ASTRONOMICO = -18 * 0.01745329252;
+inline constexpr double ESTRELLA = -0.5667 * GRADO;  // refraction 34'
+inline constexpr double SOL = -0.8333 * GRADO;       // 34' and the Sun's semidiameter 16'
+inline constexpr double CIVIL = -6 * GRADO;
+inline constexpr double NAUTICO = -12 * GRADO;
+inline constexpr double ASTRONOMICO = -18 * GRADO;
 }  // namespace altura
 
 // What the day holds for a body at one altitude of the horizon.

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "app/base/Constantes.h"
 #include "app/base/Texto1252.h"
 #include "catalogue/TrampaCarga.h"
 
@@ -14,7 +15,7 @@ namespace vedrano {
 namespace {
 
 constexpr std::size_t CABECERA = 20, LARGO = 8;
-constexpr double MAS_A_RADIANES = 3.14159265358979323846 / (180.0 * 3600.0 * 1000.0);
+constexpr double MAS_A_RADIANES = PI_COMPLETO / (180.0 * 3600.0 * 1000.0);
 // Barnard's star, the fastest, moves 10.4 arcseconds a year: a figure far
 // beyond that is no proper motion but a damaged record.
 constexpr double MAXIMO_MAS = 20000;

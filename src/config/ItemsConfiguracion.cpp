@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "app/base/Constantes.h"
 #include "app/base/TablasControles.h"
 #include "catalogue/Catalogos.h"
 
@@ -10,8 +11,6 @@ namespace vedrano {
 namespace {
 
 constexpr double INF = std::numeric_limits<double>::infinity();
-constexpr double DOS_PI = 6.2831853072;
-constexpr double MEDIO_PI = 1.5707963268;
 // The instants the calendar can show: 1 January 4713 BC, 0:00, to the end
 // of 31 December 7999.
 constexpr double PRIMER_DIA = -0.5, ULTIMO_DIA = 4642999.5;

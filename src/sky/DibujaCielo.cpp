@@ -136,6 +136,7 @@ void DibujaCapas(Contexto& x) {
 }  // namespace
 
 void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l, const OpcionesDibujo& o) {
+    PreparaProyeccion(e);
     Contexto x{e, c, l, PreparaVistas(e), o};
     // The daylight colour is the background of the one clear of the pass.
     QColor fondo = Encendido(e.Capas.LuzDi) ? ColorLuzDiurna(e, c) : QColor(0, 0, 0);

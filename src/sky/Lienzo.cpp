@@ -3,6 +3,8 @@
 #include <QPainterPath>
 #include <cmath>
 
+#include "app/base/Constantes.h"
+
 namespace vedrano {
 
 QColor ColorVB(unsigned long bgr) {
@@ -163,15 +165,15 @@ void Lienzo::DibujaFigura(QPainter& p, const QPointF& c, double rx, double ry, d
     } else {
         double a0 = std::fabs(inicio), a1 = std::fabs(fin);
         double barrido = a1 - a0;
-        if (barrido <= 0) barrido += 2 * M_PI;
+        if (barrido <= 0) barrido += 2 * PI_COMPLETO;
         QPainterPath camino;
         if (inicio < 0 || fin < 0) {
             camino.moveTo(c);
-            camino.arcTo(marco, a0 * 180 / M_PI, barrido * 180 / M_PI);
+            camino.arcTo(marco, a0 * 180 / PI_COMPLETO, barrido * 180 / PI_COMPLETO);
             camino.closeSubpath();
         } else {
-            camino.arcMoveTo(marco, a0 * 180 / M_PI);
-            camino.arcTo(marco, a0 * 180 / M_PI, barrido * 180 / M_PI);
+            camino.arcMoveTo(marco, a0 * 180 / PI_COMPLETO);
+            camino.arcTo(marco, a0 * 180 / PI_COMPLETO, barrido * 180 / PI_COMPLETO);
         }
         p.drawPath(camino);
     }
@@ -186,7 +188,7 @@ void Lienzo::Fase(double x, double y, double r, double iluminada, double haciaSo
     pintor_->save();
     pintor_->translate(c);
     // The lit limb faces the Sun; screen y grows downward.
-    pintor_->rotate(-haciaSol * 180 / M_PI);
+    pintor_->rotate(-haciaSol * 180 / PI_COMPLETO);
     pintor_->setPen(Qt::NoPen);
     pintor_->setBrush(Tono(sombra));
     pintor_->drawEllipse(QPointF(0, 0), rp, rp);

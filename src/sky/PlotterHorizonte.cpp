@@ -63,15 +63,12 @@ void DibujaHorizonte(Contexto& x) {
 }
 
 QColor ColorLuzDiurna(Estado& e, const Catalogos& c) {
-    // Looking at the zenith, the Sun's depth is the sine of its altitude.
-    double elevacion = e.Elevacion;
-    e.Elevacion = MEDIO_PI;
     HallaCuerpo(e, c.TablaPlanetas, 10);
     PosicionCuerpo& sol = e.Planetas[10];
-    // The Sun's place is of the date: no precession step.
-    PuntoProyectado p = ProyectaPuntoFecha(e, Vector3f{sol.x, sol.y, sol.z});
-    e.Elevacion = elevacion;
-    int azul = CInt(p.Z * 640.0 + 192.0);
+    // The sine of the Sun's altitude (its place is of the date: no
+    // precession step): the depth it would have in a view of the zenith.
+    const float seno = HorizontalDeFecha(e, Vector3f{sol.x, sol.y, sol.z}).z;
+    int azul = CInt(seno * 640.0 + 192.0);
     if (azul < 0) azul = 0;
     if (azul > 192) azul = 192;
     return QColor(0, 0, azul);

@@ -75,7 +75,7 @@ void DibujaExoticos(Contexto& x, const std::vector<ObjetoExotico>& tabla, bool m
         } else {
             // -0.0001 stands for the angle 0, which cannot be written negative.
             x.l.Circulo(p.X, p.Y, R, 1.0, -0.0001, -MEDIO_PI, true);
-            x.l.Circulo(p.X, p.Y, R, 1.0, -PI, -4.7123889804, true);
+            x.l.Circulo(p.X, p.Y, R, 1.0, -PI, -3 * MEDIO_PI, true);
         }
         Rotulo(x, p.X + R, p.Y, o.Nombre.texto(), RANGO_EXOTICOS);
     });

@@ -36,8 +36,8 @@ constexpr std::array<Aspecto, 12> CUERPOS = {{
 double Elongacion(const PosicionCuerpo& luna, const PosicionCuerpo& sol, const Vector3f& vs) {
     double c = double(luna.x) * vs.x + double(luna.y) * vs.y + double(luna.z) * vs.z;
     double psi = std::acos(std::max(-1.0, std::min(1.0, c)));
-    double diferencia = std::remainder(luna.AscRecta - sol.AscRecta, 2 * M_PI);
-    return diferencia >= 0 ? psi : 2 * M_PI - psi;
+    double diferencia = std::remainder(luna.AscRecta - sol.AscRecta, 2 * PI_COMPLETO);
+    return diferencia >= 0 ? psi : 2 * PI_COMPLETO - psi;
 }
 
 // One of sixteen shapes: the thresholds 23, 45, 68, ... 338 degrees.

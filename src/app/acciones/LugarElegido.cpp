@@ -29,7 +29,7 @@ double Distancia(double lon1, double lat1, double lon2, double lat2) {
 
 float ZonaPropuesta(Estado& e, const std::string& nombre) {
     double zona = std::floor((std::abs(GradosLongitud(e.Longitud)) + 22.5) / 15.0) - 1.0;
-    if (e.Longitud < 3.1415926536) zona = -zona;
+    if (e.Longitud < PI) zona = -zona;
     if (EsEspanol(nombre)) {
         zona = 1.0;
         if (e.Longitud > 0.19 && e.Longitud < 6.0) zona = 0.0;

@@ -91,7 +91,7 @@ std::string TextoHoras(float ar) {
 
 std::string TextoDireccion(double az) {
     float a = ASingle(az + PI / 8);
-    if (a >= 6.2831855f) a = 0;
+    if (a >= DOS_PI_SIMPLE) a = 0;
     // A negative azimuth gives a sector below 1, which the string function
     // refuses (error 5); one too far below for any integer, or not a number,
     // is refused the same way before it is converted.

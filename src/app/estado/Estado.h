@@ -14,9 +14,10 @@
 #include <cstdint>
 #include <string>
 
+#include "app/base/Constantes.h"
 #include "astro/Coordenadas.h"
 #include "astro/Cuerpos.h"
-#include "astro/PrecisionAlta.h"
+#include "app/estado/Derivados.h"
 #include "app/estado/Preferencias.h"
 
 namespace vedrano {
@@ -24,24 +25,6 @@ namespace vedrano {
 // The four date fields and the time field shown for one kind of time.
 struct CamposFecha {
     std::string Dia, Mes, Ano, Hora;
-};
-
-// Sines and cosines derived from the state, refreshed whenever the angles
-// they come from change, so that per-object rotations need no trigonometry.
-struct DerivadosRotacion {
-    double zeta = 0, z = 0, theta = 0;  // angles of the cached precession matrix
-    bool precesionLista = false;
-    bool alta = false;  // the cached matrix is the precise model's, for date `zeta`
-    double p[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
-    bool horizonteListo = false;
-    RotacionHorizonte horizonte;
-    double giro = 0, elevacion = 0;  // angles of the cached view rotation
-    bool vistaLista = false;
-    double cc = 1, sc = 0, cd = 1, sd = 0;
-    // The whole chain, catalogue direction to view frame, as one matrix.
-    bool completaLista = false, conPrecesion = false;
-    double claves[8] = {};
-    double m[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
 };
 
 // The check boxes of the object options, 0 or 1 (anything non-zero is on),
@@ -93,8 +76,8 @@ struct Estado {
     std::array<PosicionCuerpo, 12> Planetas;  // index 3 Earth (the Sun's results), 10 Sun, 11 Moon
 
     // View.
-    double Direccion = 3.1415926536;
-    double Elevacion = 0.785398852000001;
+    double Direccion = PI;  // looking south
+    double Elevacion = ELEVACION_INICIAL;
     float Zoom = 2.0f;
     int16_t Orientacion = 1;
     double DireccionGirada = 0;
@@ -121,7 +104,7 @@ struct Estado {
     bool DatosLocalizacion = true;        // printing: the place and its coordinates in the title
     bool PanelControl = true, PanelLocalizacion = true, PanelObjetos = true;
     bool Telescopio = false;
-    double CampoTelescopio = 0.0523596;   // the telescope circle's angle, radians
+    double CampoTelescopio = CAMPO_TELESCOPIO_INICIAL;  // the telescope circle's angle, radians
 
     // Drawing: the colours of the four star kinds (&HBBGGRR: ordinary,
     // variable, multiple, both), whether the Sun, Moon and planets are
@@ -155,12 +138,12 @@ struct Estado {
     bool SoloLectura = false;
     static constexpr const char* SaltoLinea = "\r\n";
 
-    // Filled on demand by the projection from a const state; what it holds
-    // follows from the fields above, so it never changes what is drawn.
-    mutable DerivadosRotacion Derivados;
-    // The precise model's Earth and rotation of the last instant computed,
-    // filled on demand like the rotations above.
-    mutable InstantePreciso InstanteAlta;
+    // Caches of values derived from the fields above, each part keyed by
+    // the fields it came from (app/estado/Derivados.h): written only through
+    // a writable state by the Prepara... routines; a const state's reader
+    // computes on the spot whatever is not up to date.
+    DerivadosRotacion Derivados;
+    InstantePreciso InstanteAlta;  // the precise model's Earth and rotation
 };
 
 }  // namespace vedrano

@@ -1,6 +1,6 @@
 // The rotations of the state's instant and place: precession to the date
 // and the turn from the equator to the horizon, with the state's cache of
-// their sines, cosines and matrices.
+// their matrices (app/estado/Derivados.h).
 #pragma once
 
 #include "app/estado/Estado.h"
@@ -17,21 +17,27 @@ bool PrecesaCatalogo(const Estado& e);
 
 // Precesses a catalogue direction to the date when PrecesaCatalogo says
 // so; otherwise leaves it as it is. The rigorous rotation by zeta, theta
-// and z is applied as one matrix, rebuilt whenever the angles change.
+// and z is applied as one matrix: the cached one while it is the state's,
+// otherwise one built for this call.
 void AplicaPrecesion(const Estado& e, Vector3f& v);
-
-// Makes sure e.Derivados.p holds the precession matrix of the state's angles;
-// in the precise model, the rotation from J2000 to the true equator and
-// equinox of the date (ERFA's long-term precession and nutation).
-void PreparaPrecesion(const Estado& e);
 
 // Rotates an equatorial direction into the horizon frame of the state's
 // sidereal time and latitude: X toward the west, Y toward the north point,
 // Z toward the zenith (the sine of the altitude).
 Vector3f EcuatorialAHorizontal(const Estado& e, const Vector3f& v);
 
-// Makes sure e.Derivados.horizonte is the rotation of the state's sidereal
-// time and latitude.
-void PreparaHorizonte(const Estado& e);
+// The precession matrix of the state (the precise model's: the rotation
+// from J2000 to the true equator and equinox of the date, ERFA's long-term
+// precession and nutation) and the horizon rotation of its sidereal time
+// and latitude. PrecesionVigente and HorizonteVigente tell whether `r`
+// holds them for the state's fields; Llena... computes them into `r`
+// whatever it held; Prepara... refreshes the state's own cache when it is
+// out of date.
+bool PrecesionVigente(const DerivadosRotacion& r, const Estado& e);
+void LlenaPrecesion(DerivadosRotacion& r, const Estado& e);
+void PreparaPrecesion(Estado& e);
+bool HorizonteVigente(const DerivadosRotacion& r, const Estado& e);
+void LlenaHorizonte(DerivadosRotacion& r, const Estado& e);
+void PreparaHorizonte(Estado& e);
 
 }  // namespace vedrano

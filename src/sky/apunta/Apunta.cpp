@@ -90,7 +90,7 @@ bool LlevaPunto(Estado& e, const PuntoHorizonte& h, float X, float Y) {
         if (std::fabs(dAz) < 1e-7 && std::fabs(dAlt) < 1e-7) break;
         double d = std::fmod(e.Direccion + dAz, DOS_PI);
         if (d < 0) d += DOS_PI;
-        FijaVista(e, d, std::clamp(e.Elevacion + dAlt, 0.0, 1.5707963268));
+        FijaVista(e, d, std::clamp(e.Elevacion + dAlt, 0.0, MEDIO_PI));
     }
     return true;
 }

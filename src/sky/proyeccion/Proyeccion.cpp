@@ -16,30 +16,37 @@ namespace {
 // sixth decimal differs) and shifts every reported angle by ~3.1e-6 rad.
 constexpr double CUARTO_INVERSO = 1.570793267949;
 
-const DerivadosRotacion& Vista(const Estado& e) {
-    DerivadosRotacion& r = e.Derivados;
-    if (!r.vistaLista || r.giro != e.DireccionGirada || r.elevacion != e.Elevacion) {
-        r.giro = e.DireccionGirada;
-        r.elevacion = e.Elevacion;
-        double D = MEDIO_PI - e.Elevacion;
-        r.cc = std::cos(r.giro);
-        r.sc = std::sin(r.giro);
-        r.cd = std::cos(D);
-        r.sd = std::sin(D);
-        r.vistaLista = true;
-    }
-    return r;
+// The sines and cosines of the turn and the tilt of the view.
+bool VistaVigente(const DerivadosRotacion& r, const Estado& e) {
+    return r.vistaLista && r.giro == e.DireccionGirada && r.elevacion == e.Elevacion;
 }
 
-}  // namespace
+void LlenaVista(DerivadosRotacion& r, const Estado& e) {
+    r.giro = e.DireccionGirada;
+    r.elevacion = e.Elevacion;
+    double D = MEDIO_PI - e.Elevacion;
+    r.cc = std::cos(r.giro);
+    r.sc = std::sin(r.giro);
+    r.cd = std::cos(D);
+    r.sd = std::sin(D);
+    r.vistaLista = true;
+}
 
-PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h) {
-    const DerivadosRotacion& r = Vista(e);
+PuntoProyectado ProyectaHorizontal(const DerivadosRotacion& r, const Vector3f& h) {
     double X3 = h.x * r.cc + h.y * r.sc;
     double Y3 = h.y * r.cc - h.x * r.sc;
     double Y4 = Y3 * r.cd + h.z * r.sd;
     double Z4 = h.z * r.cd - Y3 * r.sd;
     return {static_cast<float>(X3), static_cast<float>(Y4), static_cast<float>(Z4)};
+}
+
+}  // namespace
+
+PuntoProyectado ProyectaHorizontal(const Estado& e, const Vector3f& h) {
+    if (VistaVigente(e.Derivados, e)) return ProyectaHorizontal(e.Derivados, h);
+    DerivadosRotacion r;
+    LlenaVista(r, e);
+    return ProyectaHorizontal(r, h);
 }
 
 namespace {
@@ -101,19 +108,23 @@ void QuitaRefraccion(double& x, double& y, double& z) {
 
 }  // namespace
 
-const InstantePreciso& InstanteDe(const Estado& e) {
-    if (e.InstanteAlta.tt == 0 || e.InstanteAlta.jdUT != e.FechaJuliana) e.InstanteAlta = PreparaInstante(e.FechaJuliana);
-    return e.InstanteAlta;
-}
-
 namespace {
+
+bool InstanteVigente(const Estado& e) { return e.InstanteAlta.tt != 0 && e.InstanteAlta.jdUT == e.FechaJuliana; }
 
 // The Earth's barycentric velocity over the speed of light, in the
 // program's axes (x = -Y, y = Z, z = X of ERFA's).
-void Beta(const Estado& e, double beta[3]) {
+void Beta(const InstantePreciso& i, double beta[3]) {
     constexpr double C_UA_DIA = 173.1446326846693;
-    const double(&v)[3] = InstanteDe(e).tierra[1];
+    const double(&v)[3] = i.tierra[1];
     beta[0] = -v[1] / C_UA_DIA, beta[1] = v[2] / C_UA_DIA, beta[2] = v[0] / C_UA_DIA;
+}
+
+void Beta(const Estado& e, double beta[3]) {
+    if (InstanteVigente(e))
+        Beta(e.InstanteAlta, beta);
+    else
+        Beta(PreparaInstante(e.FechaJuliana), beta);
 }
 
 // Annual aberration to first order (the second order is under 0.01"): the
@@ -125,6 +136,11 @@ Vector3f Aberra(const double beta[3], const Vector3f& v) {
 }
 
 }  // namespace
+
+const InstantePreciso& PreparaInstanteAlta(Estado& e) {
+    if (!InstanteVigente(e)) e.InstanteAlta = PreparaInstante(e.FechaJuliana);
+    return e.InstanteAlta;
+}
 
 void LugarDeFecha(const Estado& e, Vector3f& v) {
     if (e.Pref.PrecisionAlta) {
@@ -145,9 +161,13 @@ PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v) {
 // longitudes of date. Precessing them once more drew the Sun 0.7 degrees off
 // near 2000 and tens of degrees off in antiquity, so they skip that step.
 PuntoProyectado ProyectaPuntoFecha(const Estado& e, const Vector3f& v) {
+    return ProyectaHorizontal(e, HorizontalDeFecha(e, v));
+}
+
+Vector3f HorizontalDeFecha(const Estado& e, const Vector3f& v) {
     Vector3f h = EcuatorialAHorizontal(e, v);
     if (e.Pref.PrecisionAlta) Refracta(h);
-    return ProyectaHorizontal(e, h);
+    return h;
 }
 
 namespace {
@@ -156,8 +176,8 @@ namespace {
 // matrix from a frame to the view frame (or only to the horizon frame).
 // desde 0 starts at catalogue directions (with precession when asked), 1 at
 // directions of the date, 2 at horizon directions.
-void ConstruyeMatriz(const Estado& e, int desde, bool precesion, double m[3][3], bool hastaHorizonte = false) {
-    const DerivadosRotacion& r = e.Derivados;
+void ConstruyeMatriz(const DerivadosRotacion& r, int desde, bool precesion, double m[3][3],
+                     bool hastaHorizonte = false) {
     for (int j = 0; j < 3; ++j) {
         double v[3] = {0, 0, 0};
         v[j] = 1;
@@ -186,53 +206,88 @@ void ConstruyeMatriz(const Estado& e, int desde, bool precesion, double m[3][3],
     }
 }
 
-void PreparaDerivados(const Estado& e, bool precesa) {
-    if (precesa) PreparaPrecesion(e);
-    PreparaHorizonte(e);
-    Vista(e);
-}
-
 // The chain precession - sidereal rotation - latitude - turn - tilt as one
-// matrix, rebuilt when any of its angles changes: the stars then cost nine
-// products each.
-const DerivadosRotacion& Cadena(const Estado& e) {
-    DerivadosRotacion& r = e.Derivados;
-    const bool precesa = PrecesaCatalogo(e);
-    double claves[8] = {e.PrecZeta, e.PrecZ, e.PrecTheta, e.TiempoSidereo, e.Latitud, e.DireccionGirada, e.Elevacion,
-                        e.Pref.PrecisionAlta ? e.FechaJuliana : -1.0};
+// matrix, keyed by all of its angles: the stars then cost nine products
+// each.
+bool CadenaVigente(const DerivadosRotacion& r, const Estado& e, bool precesa) {
+    const double claves[8] = {e.PrecZeta, e.PrecZ, e.PrecTheta, e.TiempoSidereo, e.Latitud, e.DireccionGirada,
+                              e.Elevacion, e.Pref.PrecisionAlta ? e.FechaJuliana : -1.0};
     bool igual = r.completaLista && r.conPrecesion == precesa;
     for (int i = 0; i < 8 && igual; ++i) igual = r.claves[i] == claves[i];
-    if (igual) return r;
-    PreparaDerivados(e, precesa);
-    ConstruyeMatriz(e, 0, precesa, r.m);
-    for (int i = 0; i < 8; ++i) r.claves[i] = claves[i];
+    return igual;
+}
+
+// Every part of `r` for the state: those out of date are computed again,
+// then the chain.
+void LlenaCadena(DerivadosRotacion& r, const Estado& e, bool precesa) {
+    if (precesa && !PrecesionVigente(r, e)) LlenaPrecesion(r, e);
+    if (!HorizonteVigente(r, e)) LlenaHorizonte(r, e);
+    if (!VistaVigente(r, e)) LlenaVista(r, e);
+    ConstruyeMatriz(r, 0, precesa, r.m);
+    const double claves[8] = {e.PrecZeta, e.PrecZ, e.PrecTheta, e.TiempoSidereo, e.Latitud, e.DireccionGirada,
+                              e.Elevacion, e.Pref.PrecisionAlta ? e.FechaJuliana : -1.0};
+    std::copy(claves, claves + 8, r.claves);
     r.conPrecesion = precesa;
     r.completaLista = true;
-    return r;
+}
+
+// The rotations of a const state: its cache when every part is up to date,
+// otherwise the same values computed into `local`.
+const DerivadosRotacion& Rotaciones(const Estado& e, DerivadosRotacion& local) {
+    const DerivadosRotacion& r = e.Derivados;
+    const bool precesa = PrecesaCatalogo(e);
+    if (CadenaVigente(r, e, precesa) && (!precesa || PrecesionVigente(r, e)) && HorizonteVigente(r, e) &&
+        VistaVigente(r, e))
+        return r;
+    LlenaCadena(local, e, precesa);
+    return local;
+}
+
+PuntoProyectado Por(const double m[3][3], const Vector3f& v) {
+    return {static_cast<float>(m[0][0] * v.x + m[0][1] * v.y + m[0][2] * v.z),
+            static_cast<float>(m[1][0] * v.x + m[1][1] * v.y + m[1][2] * v.z),
+            static_cast<float>(m[2][0] * v.x + m[2][1] * v.y + m[2][2] * v.z)};
+}
+
+// ProyectaPunto when the state's chain is out of date.
+PuntoProyectado ProyectaSinCadena(const Estado& e, const Vector3f& v) {
+    DerivadosRotacion local;
+    LlenaCadena(local, e, PrecesaCatalogo(e));
+    return Por(local.m, v);
 }
 
 }  // namespace
 
+void PreparaProyeccion(Estado& e) {
+    const bool precesa = PrecesaCatalogo(e);
+    if (precesa) PreparaPrecesion(e);
+    PreparaHorizonte(e);
+    DerivadosRotacion& r = e.Derivados;
+    if (!VistaVigente(r, e)) LlenaVista(r, e);
+    if (!CadenaVigente(r, e, precesa)) LlenaCadena(r, e, precesa);
+    if (e.Pref.PrecisionAlta) PreparaInstanteAlta(e);
+}
+
 PuntoProyectado ProyectaPunto(const Estado& e, Vector3f v) {
     // Refraction is no rotation: the precise model goes step by step.
     if (e.Pref.PrecisionAlta) return ProyectaPuntoRef(e, v);
-    const DerivadosRotacion& r = Cadena(e);
-    return {static_cast<float>(r.m[0][0] * v.x + r.m[0][1] * v.y + r.m[0][2] * v.z),
-            static_cast<float>(r.m[1][0] * v.x + r.m[1][1] * v.y + r.m[1][2] * v.z),
-            static_cast<float>(r.m[2][0] * v.x + r.m[2][1] * v.y + r.m[2][2] * v.z)};
+    const DerivadosRotacion& r = e.Derivados;
+    if (!CadenaVigente(r, e, PrecesaCatalogo(e))) return ProyectaSinCadena(e, v);
+    return Por(r.m, v);
 }
 
 VistasPasada PreparaVistas(const Estado& e) {
     VistasPasada v;
-    const DerivadosRotacion& r = Cadena(e);
+    DerivadosRotacion local;
+    const DerivadosRotacion& r = Rotaciones(e, local);
     std::copy(&r.m[0][0], &r.m[0][0] + 9, &v.catalogo.m[0][0]);
-    ConstruyeMatriz(e, 1, false, v.fecha.m);
-    ConstruyeMatriz(e, 2, false, v.horizonte.m);
+    ConstruyeMatriz(r, 1, false, v.fecha.m);
+    ConstruyeMatriz(r, 2, false, v.horizonte.m);
     if (e.Pref.PrecisionAlta) {
         // Everything in the sky is lifted by the atmosphere; the horizon is not.
-        ConstruyeMatriz(e, 0, PrecesaCatalogo(e), v.catalogo.h, true);
+        ConstruyeMatriz(r, 0, PrecesaCatalogo(e), v.catalogo.h, true);
         Beta(e, v.catalogo.beta);
-        ConstruyeMatriz(e, 1, false, v.fecha.h, true);
+        ConstruyeMatriz(r, 1, false, v.fecha.h, true);
         std::copy(&v.horizonte.m[0][0], &v.horizonte.m[0][0] + 9, &v.catalogo.m[0][0]);
         std::copy(&v.horizonte.m[0][0], &v.horizonte.m[0][0] + 9, &v.fecha.m[0][0]);
         v.catalogo.refracta = v.fecha.refracta = true;
@@ -240,21 +295,11 @@ VistasPasada PreparaVistas(const Estado& e) {
     return v;
 }
 
-namespace {
-
-Vector3f Por(const double m[3][3], const Vector3f& v) {
-    return {static_cast<float>(m[0][0] * v.x + m[0][1] * v.y + m[0][2] * v.z),
-            static_cast<float>(m[1][0] * v.x + m[1][1] * v.y + m[1][2] * v.z),
-            static_cast<float>(m[2][0] * v.x + m[2][1] * v.y + m[2][2] * v.z)};
-}
-
-}  // namespace
-
 PuntoProyectado ProyectaRefractando(const MatrizVista& r, const Vector3f& v) {
-    Vector3f h = Por(r.h, Aberra(r.beta, v));
+    const PuntoProyectado a = Por(r.h, Aberra(r.beta, v));
+    Vector3f h{a.X, a.Y, a.Z};
     Refracta(h);
-    Vector3f p = Por(r.m, h);
-    return {p.x, p.y, p.z};
+    return Por(r.m, h);
 }
 
 double AnosMovimientoPropio(const Estado& e) {
@@ -286,7 +331,7 @@ void PuntoACielo(const Estado& e, float X, float Y, double& ar, double& dec, flo
         if (c == 1) {
             az = 0;
         } else if (c == -1) {
-            az = 3.1415927f;
+            az = PI_SIMPLE;
         } else {
             az = std::atan(Divide(-c, Sqr(1 - c * c))) + CUARTO_INVERSO;
         }

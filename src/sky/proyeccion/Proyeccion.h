@@ -53,9 +53,20 @@ inline PuntoProyectado Proyecta(const MatrizVista& r, const Vector3f& v) {
 // precise model also displaced by the annual aberration (up to 20").
 void LugarDeFecha(const Estado& e, Vector3f& v);
 
+// Brings the state's cached rotations (app/estado/Derivados.h) up to date
+// with its fields, and in the precise model its instant: run before reading
+// the sky object by object (the rendering pass, the object under the
+// cursor), so that each object costs its products only.
+void PreparaProyeccion(Estado& e);
+
 // The precise model's Earth and rotation for the state's instant, computed
-// once per instant.
-const InstantePreciso& InstanteDe(const Estado& e);
+// once per instant and kept in the state.
+const InstantePreciso& PreparaInstanteAlta(Estado& e);
+
+// A direction of the date in the horizon frame (x west, y north, z zenith),
+// lifted by the refraction in the precise model: the step of
+// ProyectaPuntoFecha before the view's turn and tilt.
+Vector3f HorizontalDeFecha(const Estado& e, const Vector3f& v);
 
 // As ProyectaPunto, and leaves the direction of the date in v (LugarDeFecha).
 PuntoProyectado ProyectaPuntoRef(const Estado& e, Vector3f& v);

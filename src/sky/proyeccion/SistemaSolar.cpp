@@ -18,7 +18,7 @@ void HallaCuerpo(Estado& e, const TablaPlanetas& t, int16_t cuerpo) {
             HallaPlaneta(e, t, cuerpo);
         return;
     }
-    LugarPreciso l = LugarAparente(cuerpo, InstanteDe(e));
+    LugarPreciso l = LugarAparente(cuerpo, PreparaInstanteAlta(e));
     // The Moon's parallax reaches a degree: it is seen from the observer.
     if (cuerpo == 11) l = Topocentrico(l, e.Latitud, e.TiempoSidereo);
     PosicionCuerpo& b = e.Planetas[static_cast<std::size_t>(cuerpo)];

@@ -4,6 +4,8 @@
 #include <QPainterPath>
 #include <cmath>
 
+#include "app/base/Constantes.h"
+
 namespace vedrano {
 
 namespace {
@@ -52,7 +54,7 @@ void FechaHora(QPainter& p) {  // a clock
 void Objetos(QPainter& p) {  // a star and a galaxy
     QPainterPath estrella;
     for (int k = 0; k < 10; ++k) {
-        double r = k % 2 ? 4 : 10, a = -M_PI / 2 + k * M_PI / 5;
+        double r = k % 2 ? 4 : 10, a = -PI_COMPLETO / 2 + k * PI_COMPLETO / 5;
         QPointF q(18 + r * std::cos(a), 18 + r * std::sin(a));
         k ? estrella.lineTo(q) : estrella.moveTo(q);
     }

@@ -14,6 +14,7 @@
 #include "app/base/Texto1252.h"
 #include "platform/qt/Cursores.h"
 #include "sky/DibujaCielo.h"
+#include "sky/proyeccion/Proyeccion.h"
 
 namespace vedrano {
 
@@ -78,6 +79,9 @@ ObjetoSenalado VistaCielo::ObjetoEn(const QPointF& pixel) const {
     constexpr double ALCANCE = 7;  // pixels
     const QPointF u = AUsuario(pixel);
     const float radio = static_cast<float>(ALCANCE * std::fabs(e_.EscalaAncho) / lienzo_.Ancho());
+    // Each object then costs its products only (a const state would work
+    // out any stale rotation again for every object).
+    PreparaProyeccion(e_);
     return ObjetoBajo(e_, c_, static_cast<float>(u.x()), static_cast<float>(u.y()), radio);
 }
 
