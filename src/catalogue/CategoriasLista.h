@@ -10,7 +10,7 @@
 namespace vedrano {
 
 struct CategoriaLista {
-    const char* nombre;  // Windows-1252
+    const char* nombre;  // UTF-8
     std::vector<std::string> ListasCatalogo::*lista;
 };
 
@@ -22,10 +22,10 @@ inline const std::array<CategoriaLista, 13> CATEGORIAS_LISTA = {{
     {"Galaxias", &ListasCatalogo::Galaxias},
     {"Nebulosas Planetarias", &ListasCatalogo::NebPlanetarias},
     {"Nebulosas Difusas", &ListasCatalogo::NebDifusas},
-    {"C\xFAmulos Abiertos", &ListasCatalogo::CumAbiertos},
-    {"C\xFAmulos Globulares", &ListasCatalogo::CumGlobulares},
-    {"Qu\xE1sares", &ListasCatalogo::Cuasares},
-    {"P\xFAlsares", &ListasCatalogo::Pulsares},
+    {"Cúmulos Abiertos", &ListasCatalogo::CumAbiertos},
+    {"Cúmulos Globulares", &ListasCatalogo::CumGlobulares},
+    {"Quásares", &ListasCatalogo::Cuasares},
+    {"Púlsares", &ListasCatalogo::Pulsares},
     {"Agujeros Negros", &ListasCatalogo::Agujeros},
     {"Lugares", &ListasCatalogo::Lugares},
 }};

@@ -96,8 +96,8 @@ void CargaMovimientos(const std::string& dirDatos, Catalogos& c, InterfazMensaje
     c.MovEstrellas.clear();
     c.MovEstrellasNombre.clear();
     c.MovFiguras.clear();
-    n.Avisa(TextoConArchivo("El fichero de movimientos propios est\xE1 da\xF1" "ado: las estrellas se dibujan "
-                            "en sus lugares de J2000.",
+    n.Avisa(TextoConArchivo(A1252("El fichero de movimientos propios está dañado: las estrellas se dibujan "
+                                  "en sus lugares de J2000."),
                             ruta),
             TITULO_CARGA);
 }

@@ -41,7 +41,7 @@ std::string Pliega(std::string_view cp1252) {
 
 void NombresValidos() {
     std::cerr << "Categorías válidas:\n";
-    for (const CategoriaLista& c : CATEGORIAS_LISTA) std::cerr << "  " << DesdeA1252(c.nombre) << "\n";
+    for (const CategoriaLista& c : CATEGORIAS_LISTA) std::cerr << "  " << c.nombre << "\n";
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ int ComandoLista(const OpcionesCli& o) {
     const CategoriaLista* elegida = nullptr;
     const std::string clave = Pliega(A1252(pedida));
     for (const CategoriaLista& c : CATEGORIAS_LISTA)
-        if (Pliega(c.nombre) == clave) elegida = &c;
+        if (Pliega(A1252(c.nombre)) == clave) elegida = &c;
     if (!elegida) {
         std::cerr << "vedrano-cli lista: categoría desconocida: " << pedida << "\n";
         NombresValidos();

@@ -7,6 +7,7 @@
 
 #include "app/base/Aritmetica.h"
 #include "app/base/TablasControles.h"
+#include "app/base/Texto1252.h"
 #include "app/base/TablasFijas.h"
 #include "app/acciones/TiempoPresente.h"
 #include "app/estado/Tiempo.h"
@@ -24,9 +25,8 @@ constexpr int TEMA_AYUDA = tema::ANIMAR;
 
 // The captions of units 1..12, in the order of the unit-length table.
 const char* const NOMBRES_UNIDADES[12] = {
-    "Minuto",           "Hora",           "Dia Sid\xE9reo", "Mes Sid\xE9reo", "A\xF1o Sid\xE9reo",
-    "Siglo Sid\xE9reo", "Milenio Sid\xE9reo", "Dia Solar",   "Mes Solar",     "A\xF1o Solar",
-    "Siglo Solar",      "Milenio Solar"};
+    "Minuto",        "Hora",        "Dia Sidéreo", "Mes Sidéreo", "Año Sidéreo", "Siglo Sidéreo",
+    "Milenio Sidéreo", "Dia Solar", "Mes Solar",   "Año Solar",   "Siglo Solar", "Milenio Solar"};
 
 // A unit outside the table (read from a damaged configuration) leaves the
 // interval as it was.
@@ -37,7 +37,7 @@ void FijaIntervalo(Estado& e) {
 }  // namespace
 
 Animar::Animar(ContextoDialogo& ctx)
-    : MarcoOpciones(ctx, "Animaci\xF3n", "Animaci\xF3n", TEMA_AYUDA), c_(ctx), reloj_(plataforma::FechaHoraUniversal) {
+    : MarcoOpciones(ctx, A1252("Animación"), A1252("Animación"), TEMA_AYUDA), c_(ctx), reloj_(plataforma::FechaHoraUniversal) {
     Estado& e = ctx.e;
     auto* cuerpo = new QVBoxLayout;
     cuerpo->setSpacing(8);
@@ -51,7 +51,7 @@ Animar::Animar(ContextoDialogo& ctx)
         auto* columna = new QVBoxLayout;
         columna->setSpacing(2);
         for (int u = desde[c]; u <= hasta[c]; ++u) {
-            auto* opcion = new Casilla(c_.controles, NOMBRES_UNIDADES[u - 1]);
+            auto* opcion = new Casilla(c_.controles, A1252(NOMBRES_UNIDADES[u - 1]));
             opcion->setMarcada(u == e.PasoUnidad);
             unidades_[static_cast<std::size_t>(u - 1)] = opcion;
             columna->addWidget(opcion);

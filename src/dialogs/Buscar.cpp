@@ -77,7 +77,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     indice_->setAccessibleName(DesdeUtf8(TITULO_INDICE));
     VisteLista(indice_, columnas);
     for (const CategoriaLista& cat : CATEGORIAS_LISTA)
-        if (cat.lista != &ListasCatalogo::Lugares) indice_->addItem(controles::Texto(cat.nombre));
+        if (cat.lista != &ListasCatalogo::Lugares) indice_->addItem(QString::fromUtf8(cat.nombre));
     connect(indice_, &QListWidget::itemClicked, this, [this](QListWidgetItem* i) { eligeCategoria(indice_->row(i)); });
     connect(indice_, &QListWidget::itemActivated, this,
             [this](QListWidgetItem* i) { eligeCategoria(indice_->row(i)); });
@@ -86,7 +86,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     pila->addWidget(indice_, 0, 0);
     for (int k = 0; k < 12; ++k) {
         auto* l = new QListWidget(this);
-        l->setAccessibleName(controles::Texto(CATEGORIAS_LISTA[static_cast<std::size_t>(k)].nombre));
+        l->setAccessibleName(QString::fromUtf8(CATEGORIAS_LISTA[static_cast<std::size_t>(k)].nombre));
         VisteLista(l, columnas);
         const auto& lineas = ctx_.c.Listas.*(CATEGORIAS_LISTA[static_cast<std::size_t>(k)].lista);
         for (const std::string& linea : lineas) {

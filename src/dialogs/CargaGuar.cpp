@@ -21,10 +21,10 @@ using namespace controles;
 
 namespace {
 
-constexpr const char* TITULO_CARGAR = "Cargar configuraci\xF3n";
-constexpr const char* TITULO_GUARDAR = "Guardar configuraci\xF3n";
-constexpr const char* TITULO_BORRAR = "Borrar configuraci\xF3n";
-constexpr const char* NO_EXISTE = "No existe un archivo de configuraci\xF3n con ese nombre.";
+const std::string TITULO_CARGAR = A1252("Cargar configuración");
+const std::string TITULO_GUARDAR = A1252("Guardar configuración");
+const std::string TITULO_BORRAR = A1252("Borrar configuración");
+const std::string NO_EXISTE = A1252("No existe un archivo de configuración con ese nombre.");
 
 // Text fields and lists in the family's font, black on white.
 void Estiliza(QWidget* w) {
@@ -115,11 +115,11 @@ void CargaGuar::llenaLista(const std::string& elegido) {
     }
 }
 
-std::string CargaGuar::nombreEscrito(const char* tituloCp1252) {
+std::string CargaGuar::nombreEscrito(const std::string& tituloCp1252) {
     // File names stay as typed (UTF-8): any name the file system takes.
     const std::string n = nombre_->text().trimmed().toStdString();
     if (n.empty())
-        ctx_.mensajes.Mensaje("Escriba el nombre del archivo de configuraci\xF3n o elija uno de la lista.",
+        ctx_.mensajes.Mensaje(A1252("Escriba el nombre del archivo de configuración o elija uno de la lista."),
                               tituloCp1252, 1, 2);
     return n;
 }
@@ -163,12 +163,11 @@ void CargaGuar::borra() {
         return;
     }
     const std::string pregunta =
-        "Va a borrar el archivo de configuraci\xF3n  " + A1252(n) +
-        ".   Para confirmarlo pulse el  Bot\xF3n  Aceptar.   Para salir sin borrarlo pulse el  Bot\xF3n  Cancelar.";
+        A1252("Va a borrar el archivo de configuración  " + n +
+              ".   Para confirmarlo pulse el  Botón  Aceptar.   Para salir sin borrarlo pulse el  Botón  Cancelar.");
     if (ctx_.mensajes.Mensaje(pregunta, TITULO_BORRAR, 2, 6) == 0) return;
     if (!QFile::remove(ruta)) {
-        ctx_.mensajes.Mensaje("No se ha podido borrar el archivo de configuraci\xF3n  " + A1252(n) + ".", TITULO_BORRAR, 1,
-                              1);
+        ctx_.mensajes.Mensaje(A1252("No se ha podido borrar el archivo de configuración  " + n + "."), TITULO_BORRAR, 1, 1);
         return;
     }
     nombre_->clear();

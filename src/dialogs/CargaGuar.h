@@ -36,7 +36,7 @@ public:
 private:
     void llenaLista(const std::string& elegido);
     // The typed name as program text, or empty after telling the user.
-    std::string nombreEscrito(const char* tituloCp1252);
+    std::string nombreEscrito(const std::string& tituloCp1252);
     void carga();
     void guarda();
     void borra();

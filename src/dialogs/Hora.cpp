@@ -27,7 +27,7 @@ namespace {
 
 constexpr int TEMA_AYUDA = tema::HORA;
 
-const char* const NOMBRES_TECLAS[7] = {"Minuto", "Hora", "Dia", "Mes", "A\xF1o", "Siglo", "Milenio"};
+const char* const NOMBRES_TECLAS[7] = {"Minuto", "Hora", "Dia", "Mes", "Año", "Siglo", "Milenio"};
 
 std::string TextoCampo(const QLineEdit* campo) { return A1252(campo->text().toStdString()); }
 
@@ -125,7 +125,7 @@ Hora::Hora(ContextoDialogo& ctx)
     auto* filaTeclas = new QHBoxLayout;
     filaTeclas->setSpacing(4);
     for (int i = 0; i < 7; ++i) {
-        auto* t = new TeclaAD(c_.controles, i, NOMBRES_TECLAS[i]);
+        auto* t = new TeclaAD(c_.controles, i, A1252(NOMBRES_TECLAS[i]));
         t->setFixedSize(46, t->sizeHint().height() + 5);  // room between the label and the frame
         connect(t, &TeclaAD::pulsada, this, [this, i](int) {
             validaPendientes();

@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "app/base/TablasControles.h"
+#include "app/base/Texto1252.h"
 #include "ui/controles/Interruptor.h"
 #include "ui/controles/Spin.h"
 
@@ -45,10 +46,10 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
 
     auto* estrellas = new Grupo("Estrellas");
     nuevoSpin(estrellas->contenido(), control::MagnitudMinima, e.NivelEstrellas);
-    idEstrellas_ = nuevasOpciones(estrellas->contenido(), {"Sin identificar", "C\xF3" "digo", "Nombre"},
+    idEstrellas_ = nuevasOpciones(estrellas->contenido(), {"Sin identificar", "Código", "Nombre"},
                                   e.IdEstrellas);
     // Program preferences, not items of a configuration.
-    if (ctx.preferenciasDibujo) nuevaPreferencia(estrellas->contenido(), "Estrellas d\xE9" "biles", e.Pref.EstrellasDebiles);
+    if (ctx.preferenciasDibujo) nuevaPreferencia(estrellas->contenido(), "Estrellas débiles", e.Pref.EstrellasDebiles);
 
     auto* constelaciones = new Grupo("Constelaciones");
     nuevoSpin(constelaciones->contenido(), control::NivelConstelaciones, e.NivelConstelaciones);
@@ -59,7 +60,7 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
 
     auto* messier = new Grupo("Messier");
     nuevaCasilla(messier->contenido(), "Objetos Messier", s.Messi);
-    idMessier_ = nuevasOpciones(messier->contenido(), {"Sin identificar", "N\xFA" "mero", "Nombre"}, e.IdMessier);
+    idMessier_ = nuevasOpciones(messier->contenido(), {"Sin identificar", "Número", "Nombre"}, e.IdMessier);
 
     auto* profundo = new Grupo("Cielo profundo");
     const struct {
@@ -71,8 +72,8 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
         {"Galaxias", s.Galax, control::NivelGalaxias, e.NivelGalaxias},
         {"Nebul.Planet.", s.NebPl, control::NivelNebPlanetarias, e.NivelNebPlanetarias},
         {"Nebul.Difusas", s.NebDi, control::NivelNebDifusas, e.NivelNebDifusas},
-        {"C\xFA" "m.Abiertos", s.CumAb, control::NivelCumAbiertos, e.NivelCumAbiertos},
-        {"C\xFA" "m.Globular.", s.CumGl, control::NivelCumGlobulares, e.NivelCumGlobulares},
+        {"Cúm.Abiertos", s.CumAb, control::NivelCumAbiertos, e.NivelCumAbiertos},
+        {"Cúm.Globular.", s.CumGl, control::NivelCumGlobulares, e.NivelCumGlobulares},
     };
     std::vector<Spin*> niveles;
     for (const auto& c : categorias) {
@@ -85,8 +86,8 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
     int ancho = 0;
     for (Spin* sp : niveles) ancho = std::max(ancho, sp->sizeHint().width());
     for (Spin* sp : niveles) sp->setFixedWidth(ancho);
-    nuevaCasilla(profundo->contenido(), "Qu\xE1" "sares", s.Quasa);
-    nuevaCasilla(profundo->contenido(), "P\xFA" "lsares", s.Pulsa);
+    nuevaCasilla(profundo->contenido(), "Quásares", s.Quasa);
+    nuevaCasilla(profundo->contenido(), "Púlsares", s.Pulsa);
     nuevaCasilla(profundo->contenido(), "Agujeros Negros", s.Aguje);
     identificar_ = new Interruptor(ctx_.controles, control::IdentificarObjetos);
     identificar_->setEncendido(e.IdentificarObjetos);
@@ -99,19 +100,19 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
     nuevaCasilla(solar->contenido(), "Sol", s.Sol);
     nuevaCasilla(solar->contenido(), "Luna", s.Luna);
     // Element 2 is the Earth's: the sky is seen from it, so it has no box.
-    const char* planetas[] = {"Mercurio", "Venus", nullptr, "Marte", "J\xFApiter",
-                              "Saturno", "Urano", "Neptuno", "Plut\xF3n"};
+    const char* planetas[] = {"Mercurio", "Venus", nullptr, "Marte", "Júpiter",
+                              "Saturno", "Urano", "Neptuno", "Plutón"};
     for (std::size_t i = 0; i < s.Plane.size(); ++i)
         if (planetas[i]) nuevaCasilla(solar->contenido(), planetas[i], s.Plane[i]);
 
     auto* referencias = new Grupo("Referencias");
     nuevaCasilla(referencias->contenido(), "Luz Diurna", s.LuzDi);
     nuevaCasilla(referencias->contenido(), "Horizonte", s.Horiz);
-    nuevaCasilla(referencias->contenido(), "Ecl\xEDptica", s.Eclip);
-    nuevaCasilla(referencias->contenido(), "A.R./DEC 15\xBA", s.ARDEC15);
-    nuevaCasilla(referencias->contenido(), "A.R./DEC 30\xBA", s.ARDEC30);
-    nuevaCasilla(referencias->contenido(), "Via L\xE1" "ctea", s.ViaLa);
-    if (ctx.preferenciasDibujo) nuevaPreferencia(referencias->contenido(), "Todos los r\xF3tulos", e.Pref.TodosLosRotulos);
+    nuevaCasilla(referencias->contenido(), "Eclíptica", s.Eclip);
+    nuevaCasilla(referencias->contenido(), "A.R./DEC 15º", s.ARDEC15);
+    nuevaCasilla(referencias->contenido(), "A.R./DEC 30º", s.ARDEC30);
+    nuevaCasilla(referencias->contenido(), "Via Láctea", s.ViaLa);
+    if (ctx.preferenciasDibujo) nuevaPreferencia(referencias->contenido(), "Todos los rótulos", e.Pref.TodosLosRotulos);
 
     auto* columna1 = new QVBoxLayout;
     columna1->addWidget(estrellas);
@@ -133,8 +134,8 @@ Objetos::Objetos(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Objetos", "Objetos"
     ponCuerpo(cuerpo);
 }
 
-Casilla* Objetos::nuevaCasilla(QBoxLayout* donde, const std::string& textoCp1252, int16_t& campo) {
-    auto* c = new Casilla(ctx_.controles, textoCp1252);
+Casilla* Objetos::nuevaCasilla(QBoxLayout* donde, const std::string& texto, int16_t& campo) {
+    auto* c = new Casilla(ctx_.controles, A1252(texto));
     c->setMarcada(campo != 0);
     connect(c, &Casilla::cambiada, this, [&campo](bool si) { campo = si ? 1 : 0; });
     donde->addWidget(c);
@@ -142,8 +143,8 @@ Casilla* Objetos::nuevaCasilla(QBoxLayout* donde, const std::string& textoCp1252
     return c;
 }
 
-Casilla* Objetos::nuevaPreferencia(QBoxLayout* donde, const std::string& textoCp1252, bool& campo) {
-    auto* c = new Casilla(ctx_.controles, textoCp1252);
+Casilla* Objetos::nuevaPreferencia(QBoxLayout* donde, const std::string& texto, bool& campo) {
+    auto* c = new Casilla(ctx_.controles, A1252(texto));
     c->setMarcada(campo);
     connect(c, &Casilla::cambiada, this, [&campo](bool si) { campo = si; });
     donde->addWidget(c);
@@ -160,14 +161,14 @@ Spin* Objetos::nuevoSpin(QBoxLayout* donde, int indice, int16_t& campo) {
     return sp;
 }
 
-std::vector<Casilla*> Objetos::nuevasOpciones(QBoxLayout* donde, const std::vector<std::string>& textosCp1252,
+std::vector<Casilla*> Objetos::nuevasOpciones(QBoxLayout* donde, const std::vector<std::string>& textos,
                                               int16_t& campo) {
     std::vector<Casilla*> grupo;
-    for (std::size_t i = 0; i < textosCp1252.size(); ++i) {
-        auto* c = new Casilla(ctx_.controles, textosCp1252[i]);
+    for (std::size_t i = 0; i < textos.size(); ++i) {
+        auto* c = new Casilla(ctx_.controles, A1252(textos[i]));
         // A value outside the choices (from a hand-edited file) shows the first.
         c->setMarcada(static_cast<int>(i) == campo ||
-                      (i == 0 && (campo < 0 || campo >= static_cast<int16_t>(textosCp1252.size()))));
+                      (i == 0 && (campo < 0 || campo >= static_cast<int16_t>(textos.size()))));
         donde->addWidget(c);
         grupo.push_back(c);
     }

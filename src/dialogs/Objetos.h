@@ -33,10 +33,11 @@ public:
     const std::vector<Casilla*>& opcionesMessier() const { return idMessier_; }
 
 private:
-    Casilla* nuevaCasilla(QBoxLayout* donde, const std::string& textoCp1252, int16_t& campo);
+    // The boxes' texts are UTF-8, as written here.
+    Casilla* nuevaCasilla(QBoxLayout* donde, const std::string& texto, int16_t& campo);
     controles::Spin* nuevoSpin(QBoxLayout* donde, int indice, int16_t& campo);
-    Casilla* nuevaPreferencia(QBoxLayout* donde, const std::string& textoCp1252, bool& campo);
-    std::vector<Casilla*> nuevasOpciones(QBoxLayout* donde, const std::vector<std::string>& textosCp1252,
+    Casilla* nuevaPreferencia(QBoxLayout* donde, const std::string& texto, bool& campo);
+    std::vector<Casilla*> nuevasOpciones(QBoxLayout* donde, const std::vector<std::string>& textos,
                                          int16_t& campo);
 
     std::vector<Casilla*> casillas_;

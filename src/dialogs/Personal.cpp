@@ -51,7 +51,7 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
     });
     cielo->contenido()->addWidget(orientacion_);
     nuevoInterruptor(cielo->contenido(), control::Precesion, e.Precesion);
-    precisionAlta_ = nuevaPreferencia(cielo->contenido(), "Precisi\xF3n alta", e.Pref.PrecisionAlta);
+    precisionAlta_ = nuevaPreferencia(cielo->contenido(), "Precisión alta", e.Pref.PrecisionAlta);
     // The telescope circle and its field, shown in degrees and kept in radians.
     nuevoInterruptor(cielo->contenido(), control::Telescopio, e.Telescopio);
     auto* campo = new Spin(ctx_.controles, control::DiametroTelescopio);
@@ -107,7 +107,7 @@ Interruptor* Personal::nuevoInterruptor(QBoxLayout* donde, int indice, bool& cam
 }
 
 Interruptor* Personal::nuevaPreferencia(QBoxLayout* donde, const char* rotulo, bool& campo) {
-    auto* s = new Interruptor(ctx_.controles, Texto(rotulo));
+    auto* s = new Interruptor(ctx_.controles, QString::fromUtf8(rotulo));
     s->setEncendido(campo);
     s->setMinimumWidth(s->sizeHint().width());
     connect(s, &Interruptor::cambiado, this, [&campo](bool si) { campo = si; });

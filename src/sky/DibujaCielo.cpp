@@ -4,6 +4,7 @@
 
 #include "app/base/Formato.h"
 #include "astro/Planetas.h"
+#include "app/base/Texto1252.h"
 #include "app/base/TextosAngulo.h"
 #include "app/estado/Tiempo.h"
 #include "platform/NumerosLocales.h"
@@ -21,8 +22,8 @@ bool Encendido(int16_t interruptor) { return interruptor != 0; }
 
 void ActualizaPanel(Estado& e) {
     PanelInformacion& p = e.Panel;
-    p.Direccion = " Direcci\xF3n = " + TextoDireccion(e.Direccion);
-    p.Elevacion = " Elevaci\xF3n = " + TextoGrados(e.Elevacion);
+    p.Direccion = A1252(" Dirección = ") + TextoDireccion(e.Direccion);
+    p.Elevacion = A1252(" Elevación = ") + TextoGrados(e.Elevacion);
     p.Zoom = " Zoom = " + plataforma::NumeroLocal(Formato(e.Zoom, "#0.0"));
     MuestraFechas(e);
     p.FechaUniversal = "T. U. = " + e.Fechas[0].Dia + " / " + e.Fechas[0].Mes + " / " + e.Fechas[0].Ano;
@@ -31,7 +32,7 @@ void ActualizaPanel(Estado& e) {
     p.HoraLocal = " " + e.Fechas[1].Hora;
     p.DiaJuliano = "D. J. = " + plataforma::NumeroLocal(e.TextoDiaJuliano);
     // The precise model says its name beside the date it was computed for.
-    if (e.Pref.PrecisionAlta) p.DiaJuliano += "    Precisi\xF3n alta";
+    if (e.Pref.PrecisionAlta) p.DiaJuliano += A1252("    Precisión alta");
 }
 
 void AjustaEscalaLienzo(Estado& e, Lienzo& l) {

@@ -68,7 +68,7 @@ void DibujaRejilla(Contexto& x, int pasoGrados) {
     x.l.FijaColor(ColorVB(0xC09060));
     for (int a = 0; a < 360; a += pasoGrados) Rotula(x, AngulosAVector(a * GRADO, 0), std::to_string(a / 15) + "h");
     for (int d = -90 + pasoGrados; d <= 90 - pasoGrados; d += pasoGrados)
-        if (d != 0) Rotula(x, AngulosAVector(0, d * GRADO), (d > 0 ? "+" : "") + std::to_string(d) + "\xB0");
+        if (d != 0) Rotula(x, AngulosAVector(0, d * GRADO), (d > 0 ? "+" : "") + std::to_string(d) + A1252("°"));
     x.l.FijaColor(ColorVB(0xFFFFFF));
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "app/base/ErrorEjecucion.h"
+#include "app/base/Texto1252.h"
 
 namespace vedrano {
 
@@ -10,59 +11,62 @@ namespace {
 
 // Index: form and control that shows it. The dots and blanks inside the
 // labels line up the values printed after them.
-const std::array<std::string, NUM_ETIQUETAS> ETIQUETAS = {
-    "Situaci\xF3" "n actual",  // 0 heading of a listed configuration
-    "Formato de hora",  // 1 Personal: selector, 24 hours or AM/PM
-    "Imagen en pantalla",  // 2 Impresor: switch, colours as on screen
-    "Panel de control",  // 3 Personal: switch
-    "Panel de cursor",  // 4 Personal: switch, the cursor panel of the main window
-    "Panel de localizaci\xF3" "n",  // 5 Personal: switch
-    "Panel de objetos",  // 6 Personal: switch
-    "Precesi\xF3" "n",  // 7 Personal: switch
-    "Telescopio",  // 8 Personal: switch, the telescope circle
-    "Sonido",  // 9 Personal: switch, the click sounds
-    "Incluir animaci\xF3" "n",  // 10 CargaGuar: switch, animate after loading
-    "Horario de verano",  // 11 Hora: switch
-    "Identificar objetos",  // 12 Objetos: switch, names beside deep-sky objects
-    "Incluir datos de localizaci\xF3" "n",  // 13 Impresor: switch
-    "Movimiento en tiempo real",  // 14 Animar: switch
-    "Velocidad",  // 15 Personal: slider
-    "Orientaci\xF3" "n del cielo",  // 16 Personal: selector, normal or mirrored sky
-    "Animar tras un cambio",  // 17 Personal: switch
-    "Marcar objetos",  // 18 Personal: switch, the marking of pointed objects
-    "Nivel galaxias....:",  // 19 Objetos: spin, galaxies
-    "Nivel neb. planet.:",  // 20 Objetos: spin, planetary nebulae
-    "Nivel neb. difusas:",  // 21 Objetos: spin, diffuse nebulae
-    "Nivel c\xFA" "m. abiert.:",  // 22 Objetos: spin, open clusters
-    "Nivel c\xFA" "m. globul.:",  // 23 Objetos: spin, globular clusters
-    "Di\xE1" "metro telescopio.:",  // 24 Personal: spin, the telescope field in degrees
-    "Longitud:",  // 25 Locali: spin, longitude in degrees, west positive
-    "Latitud.....:",  // 26 Locali: spin, latitude in degrees
-    "Zona horaria..............:",  // 27 Locali: spin, time zone in hours
-    "Direcci\xF3" "n:",  // 28 Locali: spin, view direction in degrees
-    "Elevaci\xF3" "n.........:",  // 29 Locali: spin, view elevation in degrees
-    "Zoom.............:",  // 30 Locali: spin, zoom
-    "Zona horaria:",  // 31 Hora: spin, time zone in hours
-    "Magnitud m\xED" "nima.:",  // 32 Objetos: spin, star magnitude level
-    "Nivel visualizar.....:",  // 33 Objetos: spin, constellation level
-    "Ancho en mms.....:",  // 34 Impresor: spin, picture width on paper
-    "Alto en mms........:",  // 35 Impresor: spin, picture height on paper
-    "Factor.:",  // 36 Animar: spin, count of units per step
-    "24 horas",  // 37 choice of selector 1
-    "AM / PM",  // 38 choice of selector 1
-    "Normal",  // 39 choice of selector 16
-    "Invertido",  // 40 choice of selector 16
-    "Fecha y Hora actuales",  // 41 Hora: push button, the present instant
-    "Mediod\xED" "a",  // 42 Hora: push button, today's noon
-    "Medianoche",  // 43 Hora: push button, today's midnight
-    "Animaci\xF3" "n",  // 44 Cielo: push button, opens the animation dialog
-    "Restaurar situaci\xF3" "n anterior",  // 45 Cielo: push button, reads back the work file
-    "Aceptar",  // 46 message box: accepting button
-    "Cancelar",  // 47 message box: cancelling button
-    "Cargar",  // 48 CargaGuar: push button
-    "Guardar",  // 49 CargaGuar: push button
-    "Borrar",  // 50 CargaGuar: push button
-};
+const std::array<std::string, NUM_ETIQUETAS>& Etiquetas() {
+    static const std::array<std::string, NUM_ETIQUETAS> tabla = {
+        A1252("Situación actual"),  // 0 heading of a listed configuration
+        "Formato de hora",  // 1 Personal: selector, 24 hours or AM/PM
+        "Imagen en pantalla",  // 2 Impresor: switch, colours as on screen
+        "Panel de control",  // 3 Personal: switch
+        "Panel de cursor",  // 4 Personal: switch, the cursor panel of the main window
+        A1252("Panel de localización"),  // 5 Personal: switch
+        "Panel de objetos",  // 6 Personal: switch
+        A1252("Precesión"),  // 7 Personal: switch
+        "Telescopio",  // 8 Personal: switch, the telescope circle
+        "Sonido",  // 9 Personal: switch, the click sounds
+        A1252("Incluir animación"),  // 10 CargaGuar: switch, animate after loading
+        "Horario de verano",  // 11 Hora: switch
+        "Identificar objetos",  // 12 Objetos: switch, names beside deep-sky objects
+        A1252("Incluir datos de localización"),  // 13 Impresor: switch
+        "Movimiento en tiempo real",  // 14 Animar: switch
+        "Velocidad",  // 15 Personal: slider
+        A1252("Orientación del cielo"),  // 16 Personal: selector, normal or mirrored sky
+        "Animar tras un cambio",  // 17 Personal: switch
+        "Marcar objetos",  // 18 Personal: switch, the marking of pointed objects
+        "Nivel galaxias....:",  // 19 Objetos: spin, galaxies
+        "Nivel neb. planet.:",  // 20 Objetos: spin, planetary nebulae
+        "Nivel neb. difusas:",  // 21 Objetos: spin, diffuse nebulae
+        A1252("Nivel cúm. abiert.:"),  // 22 Objetos: spin, open clusters
+        A1252("Nivel cúm. globul.:"),  // 23 Objetos: spin, globular clusters
+        A1252("Diámetro telescopio.:"),  // 24 Personal: spin, the telescope field in degrees
+        "Longitud:",  // 25 Locali: spin, longitude in degrees, west positive
+        "Latitud.....:",  // 26 Locali: spin, latitude in degrees
+        "Zona horaria..............:",  // 27 Locali: spin, time zone in hours
+        A1252("Dirección:"),  // 28 Locali: spin, view direction in degrees
+        A1252("Elevación.........:"),  // 29 Locali: spin, view elevation in degrees
+        "Zoom.............:",  // 30 Locali: spin, zoom
+        "Zona horaria:",  // 31 Hora: spin, time zone in hours
+        A1252("Magnitud mínima.:"),  // 32 Objetos: spin, star magnitude level
+        "Nivel visualizar.....:",  // 33 Objetos: spin, constellation level
+        "Ancho en mms.....:",  // 34 Impresor: spin, picture width on paper
+        "Alto en mms........:",  // 35 Impresor: spin, picture height on paper
+        "Factor.:",  // 36 Animar: spin, count of units per step
+        "24 horas",  // 37 choice of selector 1
+        "AM / PM",  // 38 choice of selector 1
+        "Normal",  // 39 choice of selector 16
+        "Invertido",  // 40 choice of selector 16
+        "Fecha y Hora actuales",  // 41 Hora: push button, the present instant
+        A1252("Mediodía"),  // 42 Hora: push button, today's noon
+        "Medianoche",  // 43 Hora: push button, today's midnight
+        A1252("Animación"),  // 44 Cielo: push button, opens the animation dialog
+        A1252("Restaurar situación anterior"),  // 45 Cielo: push button, reads back the work file
+        "Aceptar",  // 46 message box: accepting button
+        "Cancelar",  // 47 message box: cancelling button
+        "Cargar",  // 48 CargaGuar: push button
+        "Guardar",  // 49 CargaGuar: push button
+        "Borrar",  // 50 CargaGuar: push button
+    };
+    return tabla;
+}
 
 // Records not listed belong to switches and push buttons: a Boolean.
 FormatoValor Registro(int i) {
@@ -105,7 +109,7 @@ const std::array<FormatoValor, NUM_FORMATOS>& Formatos() {
 
 const std::string& Etiqueta(int indice) {
     if (indice < 0 || indice >= NUM_ETIQUETAS) throw ErrorEjecucion(ErrSubindice);
-    return ETIQUETAS[static_cast<std::size_t>(indice)];
+    return Etiquetas()[static_cast<std::size_t>(indice)];
 }
 
 const FormatoValor& FormatoIndice(int indice) {

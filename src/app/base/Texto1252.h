@@ -1,6 +1,8 @@
-// Program text is single-byte Windows-1252, as the catalogue files hold it,
-// so that fixed widths and character positions stay what they are. It turns
-// into Unicode (UTF-8) only where it is shown, printed or written out.
+// Text at run time is single-byte Windows-1252, as the catalogue files hold
+// it, so that fixed widths and character positions stay what they are. It
+// turns into Unicode (UTF-8) only where it is shown, printed or written out.
+// In the source, program text is written in UTF-8 and passed through A1252
+// where a Windows-1252 string is wanted.
 #pragma once
 #include <string>
 #include <string_view>

@@ -12,7 +12,12 @@ namespace vedrano {
 namespace {
 
 constexpr const char* RUMBOS = "N NEE SES SOO NO";
-constexpr char SIGNO_GRADO = '\xB0';
+
+// The degree sign in Windows-1252, converted once.
+const std::string& SignoGrado() {
+    static const std::string signo = A1252("°");
+    return signo;
+}
 
 // Degrees of an angle as the sexagesimal text counts them.
 double GradosSexagesimales(double angulo) {
@@ -37,7 +42,7 @@ std::string TextoSexagesimal(double angulo) {
     double D = Int(g);
     double M = Int((g - D) * 60);
     double S = Int(((g - D) - M / 60) * 3600);
-    return signo + Formato(D, "@@@") + SIGNO_GRADO + Formato(M, " 00") + "'" + Formato(S, " 00") + "\"";
+    return signo + Formato(D, "@@@") + SignoGrado() + Formato(M, " 00") + "'" + Formato(S, " 00") + "\"";
 }
 
 std::string TextoLatitud(double lat) {
@@ -95,12 +100,12 @@ std::string TextoDireccion(double az) {
     long sector = static_cast<long>(k);
     std::string rumbo = Mid(RUMBOS, 2 * sector - 1, 2);
     int16_t grados = CInt(az * RAD_A_GRADOS);
-    return Formato(grados, "@@@") + SIGNO_GRADO + " " + rumbo;
+    return Formato(grados, "@@@") + SignoGrado() + " " + rumbo;
 }
 
 std::string TextoGrados(double angulo) {
     int16_t grados = CInt(angulo * RAD_A_GRADOS);
-    return Formato(grados, "@@") + SIGNO_GRADO;
+    return Formato(grados, "@@") + SignoGrado();
 }
 
 double LeeAngulo(std::string_view texto) {

@@ -1,6 +1,6 @@
 // Texts of angles and times as the user sees and types them, and the
-// reading back of what they wrote. Texts are Windows-1252 ("\xB0" is the
-// degree sign). Every routine returns its result; none keeps any.
+// reading back of what they wrote. Texts are Windows-1252 (the degree sign
+// "°" is the byte 0xB0). Every routine returns its result; none keeps any.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace vedrano {
 
-// Sign, degrees "@@@", "\xB0", minutes " 00", "'", seconds " 00", '"' of an
+// Sign, degrees "@@@", "°", minutes " 00", "'", seconds " 00", '"' of an
 // angle in radians (5e-7 rad added to |angulo|, 360 degrees taken off once).
 // Minutes and seconds are truncated.
 std::string TextoSexagesimal(double angulo);
@@ -28,11 +28,11 @@ int16_t GradosLongitud(double lon);
 // rounded and carried into minutes and hours.
 std::string TextoHoras(float ar);
 
-// Whole degrees "@@@", "\xB0 " and the compass point of an azimuth in
+// Whole degrees "@@@", "° " and the compass point of an azimuth in
 // [0, 2pi). A negative azimuth raises ErrorEjecucion 5.
 std::string TextoDireccion(double az);
 
-// Whole degrees "@@" and "\xB0".
+// Whole degrees "@@" and "°".
 std::string TextoGrados(double angulo);
 
 // Radians of a text laid out as TextoLongitud (ending in E or O) or as

@@ -6,6 +6,7 @@
 #include "app/base/Aritmetica.h"
 #include "astro/Coordenadas.h"
 #include "app/estado/Rotaciones.h"
+#include "app/base/Texto1252.h"
 #include "app/base/TextosAngulo.h"
 #include "app/estado/Tiempo.h"
 #include "catalogue/MovimientosPropios.h"
@@ -131,12 +132,12 @@ std::vector<std::string> TextosDia(const DiaObjeto& d) {
         l.push_back(antes ? salida + "    " + puesta : puesta + "    " + salida);
     }
     if (h.transito.hay)
-        l.push_back("Tr\xE1nsito: " + Hora(d, h.transito) + "  a " + Limpio(TextoSexagesimal(h.alturaTransito)));
+        l.push_back(A1252("Tránsito: ") + Hora(d, h.transito) + "  a " + Limpio(TextoSexagesimal(h.alturaTransito)));
     if (d.esSol) {
-        const char* nombres[3] = {"civil", "n\xE1utico", "astron\xF3mico"};
+        const char* nombres[3] = {"civil", "náutico", "astronómico"};
         for (std::size_t k = 0; k < 3; ++k) {
             const OrtoTransitoOcaso& c = d.crepusculos[k];
-            std::string t = std::string("Crep\xFAsculo ") + nombres[k] + ": ";
+            std::string t = A1252(std::string("Crepúsculo ") + nombres[k] + ": ");
             if (c.visibilidad == Visibilidad::Circumpolar)
                 t += "no llega a oscurecer";
             else if (c.visibilidad == Visibilidad::NoSale)

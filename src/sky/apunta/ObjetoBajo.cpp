@@ -9,6 +9,7 @@
 #include "app/base/Constantes.h"
 #include "astro/Coordenadas.h"
 #include "app/estado/Rotaciones.h"
+#include "app/base/Texto1252.h"
 #include "app/base/TextosAngulo.h"
 #include "catalogue/MovimientosPropios.h"
 #include "sky/proyeccion/Proyeccion.h"
@@ -137,7 +138,7 @@ std::vector<std::string> DescribeObjeto(const Estado& e, const Catalogos& c, con
             for (std::size_t k = 1; k < nombre.size(); ++k)
                 nombre[k] = static_cast<char>(std::tolower(static_cast<unsigned char>(nombre[k])));
             l.push_back(nombre);
-            l.push_back(o.indice == 10 ? "Estrella (el Sol)" : o.indice == 11 ? "Sat\xE9lite de la Tierra" : "Planeta");
+            l.push_back(A1252(o.indice == 10 ? "Estrella (el Sol)" : o.indice == 11 ? "Satélite de la Tierra" : "Planeta"));
             if (o.indice == 11) {
                 // Elongation east of the Sun, 0..2pi: the phase and the
                 // days since new Moon in a mean synodic month.
@@ -149,7 +150,7 @@ std::vector<std::string> DescribeObjeto(const Estado& e, const Catalogos& c, con
                 const double iluminada = (1 - std::cos(E)) / 2;
                 l.push_back("Fase: " + Decimal(100 * iluminada, 0) + " % iluminada, " +
                             (E < PI ? "creciente" : "menguante") + "; edad " + Decimal(E / DOS_PI * 29.530589, 1) +
-                            " d\xED" "as");
+                            A1252(" días"));
             }
             break;
         }
@@ -163,15 +164,15 @@ std::vector<std::string> DescribeObjeto(const Estado& e, const Catalogos& c, con
                     n = &k;
                     break;
                 }
-            const char* tipos[4] = {"Estrella", "Estrella variable", "Estrella m\xFAltiple", "Estrella m\xFAltiple variable"};
+            const char* tipos[4] = {"Estrella", "Estrella variable", "Estrella múltiple", "Estrella múltiple variable"};
             if (n) {
                 const std::string designacion = Recorta(n->Designacion.texto()), nombre = Recorta(n->Nombre.texto());
                 l.push_back(nombre.empty() ? designacion : nombre + "  (" + designacion + ")");
                 constelacion = NombreConstelacion(c, designacion.size() >= 3 ? designacion.substr(designacion.size() - 3) : "");
             } else {
-                l.push_back("Estrella sin nombre en el cat\xE1logo");
+                l.push_back(A1252("Estrella sin nombre en el catálogo"));
             }
-            l.push_back(std::string(tipos[s.Tipo & 3]) + ", magnitud " + Decimal(s.Magnitud, 1));
+            l.push_back(A1252(tipos[s.Tipo & 3]) + ", magnitud " + Decimal(s.Magnitud, 1));
             Lugar(e, DireccionesEnFecha(c.MovEstrellas, AnosMovimientoPropio(e))(i, s.Direccion), ar, dec);
             break;
         }
@@ -210,14 +211,14 @@ std::vector<std::string> DescribeObjeto(const Estado& e, const Catalogos& c, con
                     if (k >= 1 && k <= 2) tamano = k == 1 ? "mayor de 10'" : "menor de 10'";
                     break;
                 }
-                case ClaseObjeto::CumAbierto: tabla = &c.TablaCumAbiertos, tipo = "C\xFAmulo abierto"; break;
-                case ClaseObjeto::CumGlobular: tabla = &c.TablaCumGlobulares, tipo = "C\xFAmulo globular"; break;
+                case ClaseObjeto::CumAbierto: tabla = &c.TablaCumAbiertos, tipo = A1252("Cúmulo abierto"); break;
+                case ClaseObjeto::CumGlobular: tabla = &c.TablaCumGlobulares, tipo = A1252("Cúmulo globular"); break;
                 default: break;
             }
             if (tabla) {
                 const ObjetoProfundo& r = (*tabla)[i];
                 l.push_back(Recorta(r.Designacion.texto()));
-                l.push_back(tipo + (tamano.empty() ? "" : ", tama\xF1o " + tamano));
+                l.push_back(tipo + (tamano.empty() ? "" : A1252(", tamaño ") + tamano));
                 Lugar(e, r.Direccion, ar, dec);
             } else {
                 const std::vector<ObjetoExotico>& t = o.clase == ClaseObjeto::Cuasar   ? c.TablaCuasares
@@ -225,15 +226,16 @@ std::vector<std::string> DescribeObjeto(const Estado& e, const Catalogos& c, con
                                                                                        : c.TablaAgujeros;
                 const ObjetoExotico& r = t[i];
                 l.push_back(Recorta(r.Nombre.texto()));
-                l.push_back(o.clase == ClaseObjeto::Cuasar ? "Cu\xE1sar" : o.clase == ClaseObjeto::Pulsar ? "P\xFAlsar"
-                                                                                                           : "Agujero negro");
+                l.push_back(A1252(o.clase == ClaseObjeto::Cuasar   ? "Cuásar"
+                                  : o.clase == ClaseObjeto::Pulsar ? "Púlsar"
+                                                                   : "Agujero negro"));
                 Lugar(e, r.Direccion, ar, dec);
             }
             break;
         }
     }
     l.push_back("A.R. = " + Recorta(TextoHoras(static_cast<float>(ar))) + "   DEC. = " + Recorta(TextoSexagesimal(dec)));
-    if (!constelacion.empty()) l.push_back("Constelaci\xF3n: " + constelacion);
+    if (!constelacion.empty()) l.push_back(A1252("Constelación: ") + constelacion);
     return l;
 }
 

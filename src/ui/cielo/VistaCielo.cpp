@@ -48,7 +48,7 @@ const OpcionesDibujo& VistaCielo::PreparaOpciones() {
         if (profundas_.Abre(e_.DirDatos + "VDRDATP.DAT", mensaje))
             opciones_.Profundas = &profundas_;
         else
-            m_.Mensaje(A1252(mensaje), "Estrellas d\xE9" "biles", 1, 1);
+            m_.Mensaje(A1252(mensaje), A1252("Estrellas débiles"), 1, 1);
     }
     return opciones_;
 }
