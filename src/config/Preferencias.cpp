@@ -86,7 +86,8 @@ std::string EscribePreferencias(const Preferencias& p, const std::string& ruta) 
     std::error_code ec;
     std::filesystem::create_directories(std::filesystem::path(ruta).parent_path(), ec);
     if (EscribeArchivoEntero(ruta, TextoPreferencias(p)) == 0) return {};
-    return A1252("No se han podido guardar las preferencias del programa en \"" + ruta + "\". Se conservan solo durante esta sesión.");
+    return A1252("No se han podido guardar las preferencias del programa en \"" + ruta +
+                 "\". Se conservan solo durante esta sesión.");
 }
 
 }  // namespace vedrano

@@ -37,7 +37,9 @@ void FijaIntervalo(Estado& e) {
 }  // namespace
 
 Animar::Animar(ContextoDialogo& ctx)
-    : MarcoOpciones(ctx, A1252("Animación"), A1252("Animación"), TEMA_AYUDA), c_(ctx), reloj_(plataforma::FechaHoraUniversal) {
+    : MarcoOpciones(ctx, A1252("Animación"), A1252("Animación"), TEMA_AYUDA),
+      c_(ctx),
+      reloj_(plataforma::FechaHoraUniversal) {
     Estado& e = ctx.e;
     auto* cuerpo = new QVBoxLayout;
     cuerpo->setSpacing(8);

@@ -22,9 +22,7 @@
 #include "app/acciones/ObjetivoBusqueda.h"
 #include "dialogs/piezas/PiezasForma.h"
 #include "dialogs/TextosBuscar.h"
-#include "platform/qt/PantallaQt.h"
 #include "sky/apunta/Apunta.h"
-#include "sky/apunta/DiaObjeto.h"
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/ControlDibujado.h"
 #include "ui/controles/Estilo.h"
@@ -37,18 +35,10 @@ using controles::BotonDialogo;
 namespace {
 
 constexpr int TEMA_AYUDA_BUSCAR = tema::BUSCAR;
-constexpr int FILAS_VISIBLES = 18, FILAS_MINIMAS = 5;
 constexpr int COLUMNAS_VISIBLES = 92;
 
 QString DesdeUtf8(const char* t) { return QString::fromUtf8(t); }
 
-// Width of the category column of the lines found across the lists.
-constexpr int ANCHO_CATEGORIA = 23;
-
-const QString VOLVER = QStringLiteral(" Volver al Índice General ");
-const QString BUSCAR = QStringLiteral(" Buscar el objeto elegido ");
-const QString SOLO_CONSULTA =
-    QStringLiteral(" Esta lista es sólo de consulta: sus objetos no se pueden centrar en el cielo ");
 
 }  // namespace
 
@@ -61,7 +51,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     titulo_ = new Relieve(DesdeUtf8(TITULO_INDICE), this);
     titulo_->installEventFilter(this);
     volver_ = new controles::Pulsador(ctx_.controles, DesdeUtf8(TITULO_INDICE), this);
-    volver_->setToolTip(VOLVER);
+    volver_->setToolTip(DesdeUtf8(AYUDA_VOLVER));
     connect(volver_, &controles::Pulsador::accionado, this, [this] { muestraIndice(); });
     cabecera_ = new QLabel(this);
     cabecera_->setFont(columnas);
@@ -130,7 +120,7 @@ Buscar::Buscar(ContextoDialogo& ctx, QWidget* padre) : QDialog(padre ? padre : c
     });
 
     buscar_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Aceptar, this);
-    buscar_->setToolTip(BUSCAR);
+    buscar_->setToolTip(DesdeUtf8(AYUDA_BUSCAR));
     ayuda_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Ayuda, this);
     ayuda_->setToolTip(QStringLiteral(" Ayuda sobre Buscar objetos "));
     salir_ = new BotonDialogo(ctx_.controles, BotonDialogo::Tipo::Salir, this);
@@ -176,136 +166,6 @@ QStringList Buscar::leyenda() const {
 
 QString Buscar::textoDia() const { return dia_->isHidden() ? QString() : dia_->text(); }
 
-void Buscar::muestraDia() {
-    // The rising, transit and setting of the chosen line for the date and
-    // place of the sky, in one line under the list.
-    QListWidget* l = categoria_ < 0 ? nullptr : listas_[static_cast<std::size_t>(categoria_)];
-    ObjetoDelDia o;
-    if (!l || !ObjetoDeLista(ctx_.c, categoria_, l->currentRow(), o)) {
-        dia_->hide();
-        return;
-    }
-    std::string texto;
-    for (const std::string& linea : TextosDia(HallaDia(ctx_.e, ctx_.c.TablaPlanetas, o)))
-        texto += (texto.empty() ? "" : "   ") + linea;
-    dia_->setText(controles::Texto(texto));
-    dia_->show();
-}
-
-QListWidget* Buscar::listaVisible() const {
-    if (categoria_ >= 0) return listas_[static_cast<std::size_t>(categoria_)];
-    return hallados_->isHidden() ? indice_ : hallados_;
-}
-
-void Buscar::muestraIndice() {
-    for (QListWidget* l : listas_) l->hide();
-    hallados_->hide();
-    categoria_ = -1;
-    titulo_->setTexto(DesdeUtf8(TITULO_INDICE));
-    titulo_->setToolTip({});
-    volver_->hide();
-    cabecera_->hide();
-    leyenda_->hide();
-    dia_->hide();
-    permiteBuscar(true);
-    indice_->setCurrentRow(-1);
-    indice_->clearSelection();
-    filtro_->blockSignals(true);
-    filtro_->clear();
-    filtro_->blockSignals(false);
-    FiltraLista(indice_, {});
-    indice_->show();
-    ajustaAPantalla();
-}
-
-void Buscar::muestraHallados(const QString& filtro) {
-    // Typed while the index is shown: the lines of every list that answer,
-    // each with its category.
-    hallados_->clear();
-    if (filtro.trimmed().isEmpty()) {
-        hallados_->hide();
-        indice_->show();
-        cabecera_->hide();
-        return;
-    }
-    std::vector<const QListWidget*> listas(listas_.begin(), listas_.end());
-    for (const Hallazgo& h : BuscaEnListas(listas, filtro)) {
-        const QString categoria = indice_->item(h.lista)->text();
-        auto* item = new QListWidgetItem(categoria.leftJustified(ANCHO_CATEGORIA) +
-                                             listas_[static_cast<std::size_t>(h.lista)]->item(h.fila)->text(),
-                                         hallados_);
-        item->setData(Qt::UserRole, QPoint(h.lista, h.fila));
-    }
-    cabecera_->setText(DesdeUtf8(CABECERA_HALLADOS));
-    cabecera_->show();
-    indice_->hide();
-    hallados_->show();
-    hallados_->setCurrentRow(hallados_->count() > 0 ? 0 : -1);
-}
-
-void Buscar::ajustaAPantalla() {
-    // The lists give up rows, down to a few, when the form with its header
-    // and legend would not fit the screen (a large scale factor).
-    const int fila = QFontMetrics(FuenteColumnas()).height();
-    auto filas = [this, fila](int n) {
-        for (QListWidget* l : listas_) l->setMinimumHeight(fila * n);
-        for (QListWidget* l : {indice_, hallados_}) l->setMinimumHeight(fila * n);
-        layout()->invalidate();
-    };
-    filas(FILAS_VISIBLES);
-    const QRect area = plataforma::AreaVentanas(isVisible() ? this : parentWidget());
-    const int sobra = layout()->totalMinimumSize().height() - area.height();
-    if (sobra > 0) filas(std::max(FILAS_MINIMAS, FILAS_VISIBLES - (sobra + fila - 1) / fila));
-    if (isVisible() && !area.contains(frameGeometry())) {
-        adjustSize();
-        move(plataforma::PosicionCentrada(size(), parentWidget()));
-    }
-}
-
-void Buscar::abreHallado() {
-    QListWidgetItem* item = hallados_->currentItem();
-    if (!item || hallados_->isHidden()) return;
-    const QPoint donde = item->data(Qt::UserRole).toPoint();
-    eligeCategoria(donde.x(), donde.y());
-}
-
-void Buscar::permiteBuscar(bool si) {
-    buscar_->setEnabled(si);
-    buscar_->setToolTip(si ? BUSCAR : SOLO_CONSULTA);
-}
-
-void Buscar::eligeCategoria(int categoria, int fila) {
-    if (categoria < 0 || categoria >= 12) return;
-    const TextosCategoria& t = TEXTOS_CATEGORIAS[static_cast<std::size_t>(categoria)];
-    indice_->hide();
-    hallados_->hide();
-    for (QListWidget* l : listas_) l->hide();
-    categoria_ = categoria;
-    titulo_->setTexto(indice_->item(categoria)->text());
-    titulo_->setToolTip(VOLVER);
-    volver_->show();
-    permiteBuscar(CategoriaCentrable(categoria));
-    cabecera_->setText(DesdeUtf8(t.cabecera));
-    cabecera_->show();
-    QStringList lineas;
-    for (const char* l : t.leyenda) lineas << DesdeUtf8(l);
-    leyenda_->setText(lineas.join('\n'));
-    leyenda_->setVisible(!lineas.isEmpty());
-    filtro_->blockSignals(true);
-    filtro_->clear();
-    filtro_->blockSignals(false);
-    QListWidget* l = listas_[static_cast<std::size_t>(categoria)];
-    FiltraLista(l, {});
-    if (fila >= 0 && fila < l->count()) {
-        l->setCurrentRow(fila);
-        l->scrollToItem(l->currentItem(), QAbstractItemView::PositionAtCenter);
-    }
-    l->show();
-    muestraDia();
-    ajustaAPantalla();
-    filtro_->setFocus();
-}
-
 void Buscar::busca() {
     if (categoria_ < 0) {
         // From the lines found, the search opens the chosen one's list.
@@ -321,8 +181,9 @@ void Buscar::busca() {
         FijaObjetivo(e, ctx_.c, categoria_, linea);
     } catch (const ErrorEjecucion& err) {
         controles::FijaCursor(ctx_.controles, this, cursor::Normal);
-        MuestraMensaje(e, ctx_.controles, this, A1252("ERROR BUS" + std::to_string(err.numero()) + ": línea fuera de la lista"),
-                       "Buscar Objetos", 1, 1);
+        MuestraMensaje(e, ctx_.controles, this,
+                       A1252("ERROR BUS" + std::to_string(err.numero()) + ": línea fuera de la lista"), "Buscar Objetos",
+                       1, 1);
         return;
     }
     if (e.ObjetivoAR == 0.0 && e.ObjetivoDEC == 0.0) {

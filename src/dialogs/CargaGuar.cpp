@@ -167,7 +167,8 @@ void CargaGuar::borra() {
               ".   Para confirmarlo pulse el  Botón  Aceptar.   Para salir sin borrarlo pulse el  Botón  Cancelar.");
     if (ctx_.mensajes.Mensaje(pregunta, TITULO_BORRAR, 2, 6) == 0) return;
     if (!QFile::remove(ruta)) {
-        ctx_.mensajes.Mensaje(A1252("No se ha podido borrar el archivo de configuración  " + n + "."), TITULO_BORRAR, 1, 1);
+        ctx_.mensajes.Mensaje(A1252("No se ha podido borrar el archivo de configuración  " + n + "."), TITULO_BORRAR,
+                              1, 1);
         return;
     }
     nombre_->clear();

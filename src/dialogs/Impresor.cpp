@@ -103,7 +103,8 @@ void Impresor::imprime() {
     const bool bien = ImprimePagina(impresora, ctx_.e, ctx_.c);
     controles::FijaCursor(ctx_.controles, this, cursor::Normal);
     if (!bien) {
-        MuestraMensaje(ctx_.e, ctx_.controles, this, A1252("No se ha podido imprimir: la impresora no responde"), "Imprimir", 1, 1);
+        MuestraMensaje(ctx_.e, ctx_.controles, this, A1252("No se ha podido imprimir: la impresora no responde"),
+                       "Imprimir", 1, 1);
         return;
     }
     done(QDialog::Accepted);

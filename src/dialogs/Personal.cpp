@@ -70,7 +70,8 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
     nuevoInterruptor(ventana->contenido(), control::PanelObjetos, e.PanelObjetos);
 
     auto* horas = new Grupo("Fecha y hora");
-    formatoHora_ = new Selector(ctx_.controles, control::FormatoHora, {Etiqueta(control::Hora24), Etiqueta(control::HoraAmPm)});
+    formatoHora_ =
+        new Selector(ctx_.controles, control::FormatoHora, {Etiqueta(control::Hora24), Etiqueta(control::HoraAmPm)});
     formatoHora_->setEleccion(e.FormatoHora == 1 ? 1 : 2);
     connect(formatoHora_, &Selector::eleccionCambiada, this,
             [&e](int eleccion) { e.FormatoHora = static_cast<int16_t>(eleccion == 1 ? 1 : 2); });

@@ -1,6 +1,6 @@
-// The column header and legend shown above and below each list of the
-// search form, in the order of the general index. UTF-8 here; the form
-// turns them into program text with A1252.
+// The texts of the search form: the column header and legend shown above
+// and below each list, in the order of the general index, and the tooltips
+// of its buttons. UTF-8, as the form shows them.
 #pragma once
 #include <array>
 #include <vector>
@@ -11,6 +11,12 @@ struct TextosCategoria {
     const char* cabecera;
     std::vector<const char*> leyenda;  // one text per line
 };
+
+// Tooltips of the buttons, which change with the list shown.
+inline const char* const AYUDA_VOLVER = " Volver al Índice General ";
+inline const char* const AYUDA_BUSCAR = " Buscar el objeto elegido ";
+inline const char* const AYUDA_SOLO_CONSULTA =
+    " Esta lista es sólo de consulta: sus objetos no se pueden centrar en el cielo ";
 
 inline const char* const CABECERA_PROFUNDO = "   Código  Magn.     A. R.           DEC";
 inline const char* const CABECERA_CODIGO4 = "    Código             A. R.           DEC";

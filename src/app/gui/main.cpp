@@ -93,7 +93,9 @@ int main(int argc, char** argv) {
 
     QApplication::setOverrideCursor(Qt::WaitCursor);
     Cielo cielo(e, controles, c, Dialogos(e, controles));
-    app.avisa = [&](int numero) { MuestraMensaje(e, controles, &cielo, "ERROR " + std::to_string(numero), "VEDRANO", 1, 1); };
+    app.avisa = [&](int numero) {
+        MuestraMensaje(e, controles, &cielo, "ERROR " + std::to_string(numero), "VEDRANO", 1, 1);
+    };
     FijaAyudaMensajes([&cielo](int tema) { cielo.Contexto().Ayuda(tema); });
     cielo.show();
     app.processEvents();

@@ -30,8 +30,8 @@ constexpr int MARGEN = 14, ALTO_TITULO = 24, LADO_ICONO = 32, ANCHO_TEXTO = 380,
 
 void FijaAyudaMensajes(std::function<void(int)> ayuda) { Ayuda() = std::move(ayuda); }
 
-int16_t MuestraMensaje(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
-                       int16_t botones, int16_t icono, int16_t ayuda) {
+int16_t MuestraMensaje(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252,
+                       const std::string& tituloCp1252, int16_t botones, int16_t icono, int16_t ayuda) {
     e.BotonesMensaje = botones;
     e.IconoMensaje = icono;
     e.TemaMensaje = ayuda;
@@ -40,8 +40,8 @@ int16_t MuestraMensaje(Estado& e, controles::Contexto& controles, QWidget* padre
     return e.RespuestaMensaje;
 }
 
-Mensajes::Mensajes(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
-                   int16_t botones, int16_t icono, int16_t ayuda)
+Mensajes::Mensajes(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252,
+                   const std::string& tituloCp1252, int16_t botones, int16_t icono, int16_t ayuda)
     : QDialog(padre, Qt::Dialog | Qt::FramelessWindowHint),
       e_(e),
       controles_(controles),

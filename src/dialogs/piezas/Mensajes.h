@@ -23,8 +23,8 @@ class BotonDialogo;
 // e.RespuestaMensaje and returns: -1 accept, 0 cancel. Esc or closing the
 // box cancels a set-2 message and accepts a set-1 one. Text and title are
 // Windows-1252; CR LF breaks the lines.
-int16_t MuestraMensaje(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
-                       int16_t botones, int16_t icono, int16_t ayuda = 0);
+int16_t MuestraMensaje(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252,
+                       const std::string& tituloCp1252, int16_t botones, int16_t icono, int16_t ayuda = 0);
 
 // What the help button does with its topic (the program's help window).
 void FijaAyudaMensajes(std::function<void(int)> ayuda);
@@ -32,8 +32,8 @@ void FijaAyudaMensajes(std::function<void(int)> ayuda);
 class Mensajes : public QDialog {
     Q_OBJECT
 public:
-    Mensajes(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252, const std::string& tituloCp1252,
-             int16_t botones, int16_t icono, int16_t ayuda);
+    Mensajes(Estado& e, controles::Contexto& controles, QWidget* padre, const std::string& textoCp1252,
+             const std::string& tituloCp1252, int16_t botones, int16_t icono, int16_t ayuda);
 
     controles::Pulsador* botonAceptar() const { return aceptar_; }
     controles::Pulsador* botonCancelar() const { return cancelar_; }  // null for set 1

@@ -138,7 +138,9 @@ std::vector<std::string> DescribeObjeto(const Estado& e, const Catalogos& c, con
             for (std::size_t k = 1; k < nombre.size(); ++k)
                 nombre[k] = static_cast<char>(std::tolower(static_cast<unsigned char>(nombre[k])));
             l.push_back(nombre);
-            l.push_back(A1252(o.indice == 10 ? "Estrella (el Sol)" : o.indice == 11 ? "Satélite de la Tierra" : "Planeta"));
+            l.push_back(A1252(o.indice == 10   ? "Estrella (el Sol)"
+                              : o.indice == 11 ? "Satélite de la Tierra"
+                                               : "Planeta"));
             if (o.indice == 11) {
                 // Elongation east of the Sun, 0..2pi: the phase and the
                 // days since new Moon in a mean synodic month.
