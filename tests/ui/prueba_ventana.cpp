@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "app/base/TablasControles.h"
 #include "EntornoQt.h"
 #include "CatalogosPrueba.h"
 #include "Falsos.h"
@@ -87,7 +88,7 @@ TEST_F(Ventana, LaFechaYHoraDejanElCieloDibujado) {
     const QImage antes = Imagen();
     CuandoAparezca<Hora>([](Hora& h) {
         h.setReloj(RelojFijo);
-        h.pulsador(42)->pulsa();  // today's noon
+        h.pulsador(control::Mediodia)->pulsa();  // today's noon
         Pulsa(h.botonSalir());
     });
     cielo->BotonSoltado(4);
