@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include "app/base/TablasControles.h"
 #include "app/estado/Tiempo.h"
 #include "app/estado/Vista.h"
 #include "../ui/EntornoQt.h"
@@ -236,19 +237,19 @@ TEST_F(FormaHora, MediodiaMedianocheYAhoraConVerano) {
     Hora h(ctx);
     h.setReloj([reloj] { return reloj; });
 
-    h.pulsador(42)->pulsa();
+    h.pulsador(control::Mediodia)->pulsa();
     EXPECT_DOUBLE_EQ(e.FechaJuliana, 2460507.0 - 2.0 / 24);
     EXPECT_EQ(h.hora(1)->text(), "12:00");
     EXPECT_EQ(h.hora(0)->text(), "10:00");
     EXPECT_EQ(h.dia(0)->text(), "15");
 
-    h.pulsador(43)->pulsa();
+    h.pulsador(control::Medianoche)->pulsa();
     EXPECT_EQ(h.hora(1)->text(), "00:00");
     EXPECT_EQ(h.dia(1)->text(), "15");
     EXPECT_EQ(h.hora(0)->text(), "22:00");
     EXPECT_EQ(h.dia(0)->text(), "14");
 
-    Clic(h.pulsador(41), QPoint(20, 10));
+    Clic(h.pulsador(control::FechaHoraActuales), QPoint(20, 10));
     EXPECT_EQ(h.hora(1)->text(), "09:20");
     EXPECT_EQ(h.hora(0)->text(), "07:20");
     // Each press went down with sound 6 and came up with 7.
@@ -266,7 +267,7 @@ TEST_F(FormaHora, AhoraNoDependeDeLaZonaDelOrdenador) {
     {
         Hora h(ctx);
         const double antes = utAhora();
-        h.pulsador(41)->pulsa();
+        h.pulsador(control::FechaHoraActuales)->pulsa();
         const double despues = utAhora();
         EXPECT_GE(e.FechaJuliana, antes - 0.5 / 1440) << "cut to the minute, never earlier than that";
         EXPECT_LE(e.FechaJuliana, despues + 0.5 / 1440);
@@ -278,9 +279,9 @@ TEST_F(FormaHora, AhoraNoDependeDeLaZonaDelOrdenador) {
         // UT + 2: today's noon is 11 March, 10:00 UT.
         FijaLugar(e, c.TablaPlanetas, {e.Longitud, e.Latitud, 1, e.HorarioVerano});
         h.setReloj([] { return Reloj(2460379.5) + 23.5 / 24; });
-        h.pulsador(42)->pulsa();
+        h.pulsador(control::Mediodia)->pulsa();
         EXPECT_NEAR(e.FechaJuliana, 2460380.5 + 10.0 / 24, 1e-9);
-        h.pulsador(43)->pulsa();
+        h.pulsador(control::Medianoche)->pulsa();
         EXPECT_NEAR(e.FechaJuliana, 2460379.5 + 22.0 / 24, 1e-9);  // 00:00 of 11 March local
     }
     if (tzAntes.isNull())

@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <cmath>
 
+#include "app/base/TablasControles.h"
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "ContextoPrueba.h"
@@ -83,14 +84,14 @@ TEST(Locali, ZonaPropuestaPorCadaLugar) {
         FijaLugar(d.e, d.c.TablaPlanetas, {d.e.Longitud, d.e.Latitud, 9.5f, d.e.HorarioVerano});
         ClicLinea(l.lugares(), caso.fila);
         EXPECT_EQ(d.e.ZonaHoraria, caso.zona) << caso.fila;
-        EXPECT_EQ(l.spin(27)->valor(), caso.zona);
+        EXPECT_EQ(l.spin(control::ZonaLocali)->valor(), caso.zona);
         EXPECT_EQ(d.e.IndiceLugar, caso.fila);
         EXPECT_EQ(d.e.Longitud, c.TablaCiudades[static_cast<std::size_t>(caso.fila)].Longitud);
     }
     // The field shows the place's own longitude text, and the local date its new zone.
     const Ciudad& londres = c.TablaCiudades[static_cast<std::size_t>(Fila(c, "Londres"))];
-    EXPECT_EQ(l.spin(25)->campo()->text().toStdString(), DesdeA1252(TextoLongitud(londres.Longitud)));
-    EXPECT_EQ(l.spin(25)->campo()->text().left(8), QStringLiteral("  0° 07'"));
+    EXPECT_EQ(l.spin(control::Longitud)->campo()->text().toStdString(), DesdeA1252(TextoLongitud(londres.Longitud)));
+    EXPECT_EQ(l.spin(control::Longitud)->campo()->text().left(8), QStringLiteral("  0° 07'"));
     EXPECT_EQ(d.e.TextoLugar, "Londres (GBR)");
 }
 
@@ -104,7 +105,7 @@ TEST(Locali, AbrirYSalirConservaLaZonaRestaurada) {
     Locali l(d.ctx);
     l.show();
     EXPECT_EQ(l.lugares()->currentRow(), d.e.IndiceLugar);
-    EXPECT_EQ(l.spin(27)->valor(), 2.0f);
+    EXPECT_EQ(l.spin(control::ZonaLocali)->valor(), 2.0f);
     pruebas::Clic(l.botonSalir(), {16, 16});
     EXPECT_EQ(d.e.ZonaHoraria, 2.0f);
     EXPECT_FALSE(l.isVisible());
@@ -117,15 +118,15 @@ TEST(Locali, AngulosTecleadosSeCorrigen) {
     pruebas::EntornoDialogo d;
     Locali l(d.ctx);
     l.show();
-    QLineEdit* lat = l.spin(26)->campo();
-    QLineEdit* lon = l.spin(25)->campo();
+    QLineEdit* lat = l.spin(control::Latitud)->campo();
+    QLineEdit* lon = l.spin(control::Longitud)->campo();
     const double latAntes = d.e.Latitud;
 
     Teclea(lat, QStringLiteral("abc"));  // letters vanish as they are typed
     EXPECT_EQ(lat->text(), QString());
     Intro(lat);
     EXPECT_EQ(d.e.Latitud, latAntes);  // nothing typed: the value stays, shown again
-    EXPECT_EQ(lat->text(), l.spin(26)->campo()->text());
+    EXPECT_EQ(lat->text(), l.spin(control::Latitud)->campo()->text());
     EXPECT_FALSE(lat->text().isEmpty());
 
     Teclea(lat, QStringLiteral("-"));

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <chrono>
 
+#include "app/base/TablasControles.h"
 #include "EntornoQt.h"
 #include "Falsos.h"
 #include "app/base/ErrorEjecucion.h"
@@ -60,7 +61,7 @@ TEST_F(Controles, PausaSegunVelocidad) {
 }
 
 TEST_F(Controles, SpinEnElMaximoSinVueltaNoSeMueve) {
-    Spin s(k, 36, nullptr);  // animation count, 1..999, no wrap
+    Spin s(k, control::FactorAnimacion, nullptr);  // animation count, 1..999, no wrap
     s.setValor(999);
     float guardado = -1;
     s.setAlmacen([&](float v) { guardado = v; });
@@ -72,7 +73,7 @@ TEST_F(Controles, SpinEnElMaximoSinVueltaNoSeMueve) {
 }
 
 TEST_F(Controles, SpinAvanzaHastaElLimiteConSonidoYPausas) {
-    Spin s(k, 30, nullptr);  // zoom, 1..15 by 0.5
+    Spin s(k, control::Zoom, nullptr);  // zoom, 1..15 by 0.5
     s.setValor(14);
     std::vector<float> pasos;
     QObject::connect(&s, &Spin::paso, [&](float v) { pasos.push_back(v); });
@@ -100,7 +101,7 @@ TEST_F(Controles, SpinAvanzaHastaElLimiteConSonidoYPausas) {
 }
 
 TEST_F(Controles, SpinConVueltaYSoltarElRaton) {
-    Spin s(k, 28, nullptr);  // direction, 0..359, wraps
+    Spin s(k, control::Direccion, nullptr);  // direction, 0..359, wraps
     s.setValor(1);
     // Let go of the hold after three steps (two pauses a step).
     f.reloj.alDormir = [&](int n) {
@@ -129,7 +130,7 @@ TEST_F(Controles, SpinConVueltaYSoltarElRaton) {
 }
 
 TEST_F(Controles, SpinTextoEscrito) {
-    Spin s(k, 36, nullptr);
+    Spin s(k, control::FactorAnimacion, nullptr);
     float guardado = -1;
     s.setAlmacen([&](float v) { guardado = v; });
     s.campo()->setText(QStringLiteral("5000"));
@@ -206,8 +207,8 @@ TEST_F(Controles, SinDispositivoDeSonidoNoFallaNiEspera) {
 
 TEST_F(Controles, IndiceFueraDeLasTablas) {
     try {
-        Spin s(k, 41, nullptr);
-        FAIL() << "a spin of index 41 was made";
+        Spin s(k, NUM_FORMATOS, nullptr);
+        FAIL() << "a spin past the value table was made";
     } catch (const ErrorEjecucion& err) {
         EXPECT_EQ(err.numero(), 9);
     }

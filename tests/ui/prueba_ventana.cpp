@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "app/base/TablasControles.h"
 #include "app/estado/Tiempo.h"
 #include "app/estado/Vista.h"
 #include "EntornoQt.h"
@@ -89,7 +90,7 @@ TEST_F(Ventana, LaFechaYHoraDejanElCieloDibujado) {
     const QImage antes = Imagen();
     CuandoAparezca<Hora>([](Hora& h) {
         h.setReloj(RelojFijo);
-        h.pulsador(42)->pulsa();  // today's noon
+        h.pulsador(control::Mediodia)->pulsa();  // today's noon
         Pulsa(h.botonSalir());
     });
     cielo->BotonSoltado(4);
