@@ -26,6 +26,7 @@
 #include "dialogs/Objetos.h"
 #include "dialogs/Personal.h"
 #include "ui/cielo/Cielo.h"
+#include "ui/cielo/IndicesCielo.h"
 #include "ui/cielo/Paneles.h"
 #include "ui/controles/Interruptor.h"
 #include "ui/controles/Potenciometro.h"
@@ -94,11 +95,11 @@ TEST(Accesible, MainWindowControlsHaveNameAndValueAndAllTakeTheFocus) {
     cielo.ActualizaCielo();
     EXPECT_GE(LeeControles(&cielo), 9 + 5 + 1 + 16);
 
-    QAccessibleInterface* direccion = QAccessible::queryAccessibleInterface(cielo.SubBaj(1));
+    QAccessibleInterface* direccion = QAccessible::queryAccessibleInterface(cielo.SubBaj(flechas::Direccion));
     EXPECT_EQ(direccion->text(QAccessible::Name), QStringLiteral("Dirección"));
     EXPECT_EQ(direccion->role(), QAccessible::SpinBox);
     EXPECT_TRUE(direccion->text(QAccessible::Value).startsWith(QStringLiteral("Dirección = ")));
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(cielo.Boton(6))->text(QAccessible::Name),
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(cielo.Boton(boton::Buscar))->text(QAccessible::Name),
               QStringLiteral("Buscar objetos"));
 
     // Tab goes round the window's focus chain, stopping at the widgets

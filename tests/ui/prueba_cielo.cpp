@@ -18,6 +18,7 @@
 #include "catalogue/CargaCatalogos.h"
 #include "dialogs/piezas/Mensajes.h"
 #include "ui/cielo/Cielo.h"
+#include "ui/cielo/IndicesCielo.h"
 #include "ui/controles/SubBaj.h"
 
 using namespace vedrano;
@@ -75,29 +76,29 @@ TEST(Cielo, DirectionWrapsFrom359To1AndBack) {
     Ventana v;
     const double paso = DOS_PI / 360;
     FijaVista(v.e, 359 * paso, v.e.Elevacion);
-    v.Pulsa(1, 40, 1);
+    v.Pulsa(flechas::Direccion, 40, 1);
     EXPECT_DOUBLE_EQ(v.e.Direccion, paso);  // never shows 0
     FijaVista(v.e, 0, v.e.Elevacion);
-    v.Pulsa(1, 12, 1);
+    v.Pulsa(flechas::Direccion, 12, 1);
     EXPECT_DOUBLE_EQ(v.e.Direccion, DOS_PI - paso);
     FijaVista(v.e, 3.0, v.e.Elevacion);
-    v.Pulsa(1, 40, 5);
+    v.Pulsa(flechas::Direccion, 40, 5);
     EXPECT_NEAR(v.e.Direccion, 3.0 + 5 * paso, 1e-12);
 }
 
 TEST(Cielo, ElevationAndZoomStopAtTheirLimits) {
     Ventana v;
     FijaVista(v.e, v.e.Direccion, MEDIO_PI - 0.001);
-    v.Pulsa(2, 40, 3);
+    v.Pulsa(flechas::Elevacion, 40, 3);
     EXPECT_EQ(v.e.Elevacion, MEDIO_PI);
     FijaVista(v.e, v.e.Direccion, 0.01);
-    v.Pulsa(2, 12, 3);
+    v.Pulsa(flechas::Elevacion, 12, 3);
     EXPECT_EQ(v.e.Elevacion, 0.0);
     FijaZoom(v.e, 14.5f);
-    v.Pulsa(3, 40, 4);
+    v.Pulsa(flechas::Zoom, 40, 4);
     EXPECT_EQ(v.e.Zoom, 15.0f);
     FijaZoom(v.e, 1.5f);
-    v.Pulsa(3, 12, 4);
+    v.Pulsa(flechas::Zoom, 12, 4);
     EXPECT_EQ(v.e.Zoom, 1.0f);
 }
 
@@ -116,7 +117,7 @@ TEST(Cielo, TimeArrowsStepAndAreRefusedInRealTime) {
         if (siestas >= 4) v.ventana().Sujecion = false;
     };
     v.k.CursorActual = cursor::ManoIndice;
-    v.cielo->SubBajHaPulsado(4, 12);  // left: backward
+    v.cielo->SubBajHaPulsado(flechas::Tiempo, 12);  // left: backward
     v.falsos.reloj.alDormir = nullptr;
     EXPECT_DOUBLE_EQ(v.e.FechaJuliana, antes - 2);
     EXPECT_LT(v.e.PasoDias, 0);
@@ -129,14 +130,14 @@ TEST(Cielo, TimeArrowsStepAndAreRefusedInRealTime) {
     c.Prepara(Qt::Key_Return);
     antes = v.e.FechaJuliana;
     v.k.CursorActual = cursor::ManoIndice;
-    emit v.cielo->SubBaj(4)->pulsado(40);
+    emit v.cielo->SubBaj(flechas::Tiempo)->pulsado(40);
     EXPECT_TRUE(c.visto);
     EXPECT_EQ(v.e.FechaJuliana, antes);
 
     // A press outside the arrows' band does nothing.
     v.e.TiempoReal = false;
     v.k.CursorActual = 0;
-    emit v.cielo->SubBaj(4)->pulsado(40);
+    emit v.cielo->SubBaj(flechas::Tiempo)->pulsado(40);
     EXPECT_EQ(v.e.FechaJuliana, antes);
 }
 
@@ -147,7 +148,7 @@ TEST(Cielo, OpeningADialogStopsTheAnimation) {
     v.dialogos.Objetos = [&](ContextoDialogo& ctx) { corriaAlAbrir = ctx.ventana.Sujecion || ctx.ventana.Enganche; };
     v.cielo = std::make_unique<Cielo>(v.e, v.k, Datos(), v.dialogos);
     v.ventana().Sujecion = v.ventana().Enganche = true;
-    v.cielo->BotonSoltado(5);
+    v.cielo->BotonSoltado(boton::Objetos);
     EXPECT_FALSE(corriaAlAbrir);
     EXPECT_FALSE(v.ventana().Sujecion);
 }
@@ -157,7 +158,7 @@ TEST(Cielo, CancellingTheExitKeepsTheProgram) {
     v.cielo->show();
     Contestador c;
     c.Prepara(Qt::Key_Escape);
-    v.cielo->BotonSoltado(9);
+    v.cielo->BotonSoltado(boton::Salir);
     EXPECT_TRUE(c.visto);
     EXPECT_EQ(v.e.RespuestaMensaje, 0);
     EXPECT_TRUE(v.cielo->isVisible());

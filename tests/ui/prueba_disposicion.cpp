@@ -29,6 +29,7 @@
 #include "dialogs/Objetos.h"
 #include "dialogs/Personal.h"
 #include "ui/cielo/Cielo.h"
+#include "ui/cielo/IndicesCielo.h"
 #include "ui/cielo/PanelLeyenda.h"
 #include "ui/cielo/Paneles.h"
 #include "ui/cielo/VistaCielo.h"
@@ -76,7 +77,7 @@ TEST(Disposicion, AlCrecerElCieloOcupaElSitioYLosPanelesLlegan) {
     c.resize(1700, 1040);
     QCoreApplication::processEvents();
     const QRect cielo = EnVentana(&c.Vista(), &c);
-    const QWidget* control = c.SubBaj(1)->parentWidget();
+    const QWidget* control = c.SubBaj(flechas::Direccion)->parentWidget();
     const QWidget* leyenda = c.findChild<PanelLeyenda*>();
     ASSERT_NE(leyenda, nullptr);
     // The sky takes what the panels leave: all but the left column, the

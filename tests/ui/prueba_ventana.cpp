@@ -30,6 +30,7 @@
 #include "dialogs/Personal.h"
 #include "sky/DibujaCielo.h"
 #include "ui/cielo/Cielo.h"
+#include "ui/cielo/IndicesCielo.h"
 #include "ui/cielo/VistaCielo.h"
 #include "ui/controles/BotonDialogo.h"
 #include "ui/controles/Interruptor.h"
@@ -93,7 +94,7 @@ TEST_F(Ventana, LaFechaYHoraDejanElCieloDibujado) {
         h.pulsador(control::Mediodia)->pulsa();  // today's noon
         Pulsa(h.botonSalir());
     });
-    cielo->BotonSoltado(4);
+    cielo->BotonSoltado(boton::FechaHora);
     EXPECT_DOUBLE_EQ(e.FechaJuliana, 2460736.0);
     EXPECT_NE(Imagen(), antes);
     EXPECT_EQ(Imagen(), Fresca());
@@ -128,7 +129,7 @@ TEST_F(Ventana, LocalizacionObjetosYPersonalizacionDejanElCieloDibujado) {
         l.eligeLugar(10);
         Pulsa(l.botonSalir());
     });
-    cielo->BotonSoltado(3);
+    cielo->BotonSoltado(boton::Localizacion);
     EXPECT_EQ(e.IndiceLugar, 10);
     EXPECT_NE(Imagen(), antes);
     EXPECT_EQ(Imagen(), Fresca());
@@ -138,7 +139,7 @@ TEST_F(Ventana, LocalizacionObjetosYPersonalizacionDejanElCieloDibujado) {
         Pulsa(o.casilla(QStringLiteral("Galaxias")));
         Pulsa(o.botonSalir());
     });
-    cielo->BotonSoltado(5);
+    cielo->BotonSoltado(boton::Objetos);
     EXPECT_EQ(e.Capas.Galax, 1);
     EXPECT_NE(Imagen(), antes);
     EXPECT_EQ(Imagen(), Fresca());
@@ -148,7 +149,7 @@ TEST_F(Ventana, LocalizacionObjetosYPersonalizacionDejanElCieloDibujado) {
         Pulsa(p.orientacion());
         Pulsa(p.botonSalir());
     });
-    cielo->BotonSoltado(2);
+    cielo->BotonSoltado(boton::Personalizar);
     EXPECT_EQ(e.Orientacion, 2);
     EXPECT_NE(Imagen(), antes);
     EXPECT_EQ(Imagen(), Fresca());
@@ -183,7 +184,7 @@ TEST_F(Ventana, LasConfiguracionesDejanElCieloDibujadoYUnNombreMaloNoCambiaNada)
         Pulsa(d.cargar());
         Pulsa(d.botonSalir());
     });
-    cielo->BotonSoltado(1);
+    cielo->BotonSoltado(boton::Configuraciones);
     EXPECT_EQ(aviso, QString::fromUtf8("Cargar configuración"));
     EXPECT_DOUBLE_EQ(trasNombreMalo, 2460700.5);
     EXPECT_DOUBLE_EQ(e.FechaJuliana, 2451545.0);

@@ -1,4 +1,5 @@
 #include "ui/cielo/Cielo.h"
+#include "ui/cielo/IndicesCielo.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -109,7 +110,7 @@ void Cielo::Construye() {
     // The button panel keeps its own warm colours.
     panelBotones_ = new Panel(contenido, QColor(200, 82, 52), QColor(238, 136, 102), QColor(119, 26, 18));
     panelBotones_->setFixedSize(141, 300);
-    for (int k = 1; k <= 9; ++k) {
+    for (int k = boton::Configuraciones; k <= boton::NUM; ++k) {
         auto* b = new BotonPanel(controles_, k, QString::fromUtf8(BOTONES[k].ayuda), panelBotones_);
         b->move(BOTONES[k].izquierda, BOTONES[k].arriba);
         connect(b, &BotonPanel::soltado, this, &Cielo::BotonSoltado);
@@ -120,7 +121,7 @@ void Cielo::Construye() {
     }
 
     panelControl_ = new Panel(contenido);
-    for (int i = 1; i <= 5; ++i) {
+    for (int i = flechas::Direccion; i <= flechas::NUM; ++i) {
         auto* s = new controles::SubBaj(controles_, i, A1252(ROTULOS_SUBBAJ[i]), panelControl_);
         s->move(3, 5 + 35 * (i - 1));
         s->resize(135, s->height());
@@ -154,17 +155,17 @@ void Cielo::Construye() {
         connect(f, &CampoInfo::pulsado, this, [this, abre] { BotonSoltado(abre); });
         return f;
     };
-    loca_ = campo(panelLocalizacion_, 3, "Localidad");
-    longi_ = campo(panelLocalizacion_, 3, "Longitud");
-    lati_ = campo(panelLocalizacion_, 3, "Latitud");
-    direc_ = campo(panelLocalizacion_, 3, "Dirección");
-    eleva_ = campo(panelLocalizacion_, 3, "Elevación");
-    zoom_ = campo(panelLocalizacion_, 3, "Zoom");
-    fecUni_ = campo(panelLocalizacion_, 4, "Fecha universal");
-    horUni_ = campo(panelLocalizacion_, 4, "Hora universal");
-    fecLoc_ = campo(panelLocalizacion_, 4, "Fecha local");
-    horLoc_ = campo(panelLocalizacion_, 4, "Hora local");
-    fecJul_ = campo(panelLocalizacion_, 4, "Día juliano");
+    loca_ = campo(panelLocalizacion_, boton::Localizacion, "Localidad");
+    longi_ = campo(panelLocalizacion_, boton::Localizacion, "Longitud");
+    lati_ = campo(panelLocalizacion_, boton::Localizacion, "Latitud");
+    direc_ = campo(panelLocalizacion_, boton::Localizacion, "Dirección");
+    eleva_ = campo(panelLocalizacion_, boton::Localizacion, "Elevación");
+    zoom_ = campo(panelLocalizacion_, boton::Localizacion, "Zoom");
+    fecUni_ = campo(panelLocalizacion_, boton::FechaHora, "Fecha universal");
+    horUni_ = campo(panelLocalizacion_, boton::FechaHora, "Hora universal");
+    fecLoc_ = campo(panelLocalizacion_, boton::FechaHora, "Fecha local");
+    horLoc_ = campo(panelLocalizacion_, boton::FechaHora, "Hora local");
+    fecJul_ = campo(panelLocalizacion_, boton::FechaHora, "Día juliano");
 
     panelCursor_ = new Panel(this);
     aRecta_ = new CampoInfo(panelCursor_);
@@ -220,11 +221,11 @@ void Cielo::RefrescaCampos() {
     loca_->FijaTexto(Q(" " + lugar));
     pulsador45_->setVisible(e_.Centrado);
     // What each arrow pair steps, for the screen reader.
-    subbaj_[1]->setValor(direc_->Texto().trimmed());
-    subbaj_[2]->setValor(eleva_->Texto().trimmed());
-    subbaj_[3]->setValor(zoom_->Texto().trimmed());
-    subbaj_[4]->setValor(fecLoc_->Texto().trimmed() + " " + horLoc_->Texto().trimmed());
-    subbaj_[5]->setValor(ventana_.Enganche ? QStringLiteral("en marcha") : QStringLiteral("parada"));
+    subbaj_[flechas::Direccion]->setValor(direc_->Texto().trimmed());
+    subbaj_[flechas::Elevacion]->setValor(eleva_->Texto().trimmed());
+    subbaj_[flechas::Zoom]->setValor(zoom_->Texto().trimmed());
+    subbaj_[flechas::Tiempo]->setValor(fecLoc_->Texto().trimmed() + " " + horLoc_->Texto().trimmed());
+    subbaj_[flechas::Animacion]->setValor(ventana_.Enganche ? QStringLiteral("en marcha") : QStringLiteral("parada"));
 }
 
 void Cielo::Abre(const std::function<void(ContextoDialogo&)>& abre, bool cargaConfiguraciones) {
@@ -243,7 +244,7 @@ void Cielo::Abre(const std::function<void(ContextoDialogo&)>& abre, bool cargaCo
     RefrescaCampos();
     // A loaded configuration may ask to be animated at once.
     bool animar = e_.AnimarTrasCambio || (cargaConfiguraciones && e_.IncluirAnimacion);
-    if (e_.Cambiado && animar) SubBajHaPulsado(5, 35);
+    if (e_.Cambiado && animar) SubBajHaPulsado(flechas::Animacion, 35);
 }
 
 void Cielo::BotonSoltado(int k) {
@@ -251,15 +252,15 @@ void Cielo::BotonSoltado(int k) {
     ventana_.Sujecion = false;
     ventana_.Enganche = false;
     switch (k) {
-        case 1: Abre(dialogos_.CargaGuar, true); break;
-        case 2: Abre(dialogos_.Personal); break;
-        case 3: Abre(dialogos_.Locali); break;
-        case 4: Abre(dialogos_.Hora); break;
-        case 5: Abre(dialogos_.Objetos); break;
-        case 6: Abre(dialogos_.Buscar); break;
-        case 7: Abre(dialogos_.Impresor); break;
-        case 8: contexto_.Ayuda(1020); break;
-        case 9: {
+        case boton::Configuraciones: Abre(dialogos_.CargaGuar, true); break;
+        case boton::Personalizar: Abre(dialogos_.Personal); break;
+        case boton::Localizacion: Abre(dialogos_.Locali); break;
+        case boton::FechaHora: Abre(dialogos_.Hora); break;
+        case boton::Objetos: Abre(dialogos_.Objetos); break;
+        case boton::Buscar: Abre(dialogos_.Buscar); break;
+        case boton::Imprimir: Abre(dialogos_.Impresor); break;
+        case boton::Ayuda: contexto_.Ayuda(1020); break;
+        case boton::Salir: {
             const int16_t respuesta =
                 mensajes_.Mensaje(A1252("Va a abandonar el programa  VEDRANO.   Para confirmarlo pulse el  Botón  Aceptar.   "
                                         "Para volver al programa pulse el Botón Cancelar."),
@@ -297,17 +298,17 @@ void Cielo::keyPressEvent(QKeyEvent* ev) {
     switch (ev->key()) {
         case Qt::Key_Q:
         case Qt::Key_Escape: showMinimized(); return;
-        case Qt::Key_Left: PasoTecla(1, -1); return;
-        case Qt::Key_Right: PasoTecla(1, 1); return;
-        case Qt::Key_Down: PasoTecla(2, -1); return;
-        case Qt::Key_Up: PasoTecla(2, 1); return;
-        case Qt::Key_Minus: PasoTecla(3, -1); return;
+        case Qt::Key_Left: PasoTecla(flechas::Direccion, -1); return;
+        case Qt::Key_Right: PasoTecla(flechas::Direccion, 1); return;
+        case Qt::Key_Down: PasoTecla(flechas::Elevacion, -1); return;
+        case Qt::Key_Up: PasoTecla(flechas::Elevacion, 1); return;
+        case Qt::Key_Minus: PasoTecla(flechas::Zoom, -1); return;
         case Qt::Key_Plus:
-        case Qt::Key_Equal: PasoTecla(3, 1); return;
-        case Qt::Key_PageUp: PasoTecla(4, -1); return;
-        case Qt::Key_PageDown: PasoTecla(4, 1); return;
+        case Qt::Key_Equal: PasoTecla(flechas::Zoom, 1); return;
+        case Qt::Key_PageUp: PasoTecla(flechas::Tiempo, -1); return;
+        case Qt::Key_PageDown: PasoTecla(flechas::Tiempo, 1); return;
         case Qt::Key_Space:
-            if (!ev->isAutoRepeat()) PasoTecla(5, e_.PasoDias < 0 ? -1 : 1);
+            if (!ev->isAutoRepeat()) PasoTecla(flechas::Animacion, e_.PasoDias < 0 ? -1 : 1);
             return;
         case Qt::Key_I: {
             const QPoint p = vista_->mapFromGlobal(QCursor::pos());
@@ -324,11 +325,11 @@ void Cielo::Atajos() {
         std::function<void()> accion;
     };
     const Atajo atajos[] = {
-        {QKeySequence(Qt::CTRL | Qt::Key_F), [this] { BotonSoltado(6); }},
-        {QKeySequence(Qt::CTRL | Qt::Key_O), [this] { BotonSoltado(1); }},
-        {QKeySequence(Qt::CTRL | Qt::Key_S), [this] { BotonSoltado(1); }},
-        {QKeySequence(Qt::CTRL | Qt::Key_P), [this] { BotonSoltado(7); }},
-        {QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { BotonSoltado(9); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_F), [this] { BotonSoltado(boton::Buscar); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_O), [this] { BotonSoltado(boton::Configuraciones); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_S), [this] { BotonSoltado(boton::Configuraciones); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_P), [this] { BotonSoltado(boton::Imprimir); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { BotonSoltado(boton::Salir); }},
         {QKeySequence(Qt::Key_F11), [this] { isFullScreen() ? showNormal() : showFullScreen(); }},
     };
     for (const Atajo& a : atajos) {
@@ -379,7 +380,7 @@ void Cielo::closeEvent(QCloseEvent* ev) {
         return;
     }
     ev->ignore();
-    BotonSoltado(9);
+    BotonSoltado(boton::Salir);
 }
 
 }  // namespace vedrano

@@ -75,7 +75,7 @@ public:
     // The text of every information field from the state.
     void RefrescaCampos();
 
-    // The hold-to-repeat loop of arrow pair `i` (1..5) pressed at x.
+    // The hold-to-repeat loop of arrow pair `i` (flechas::, IndicesCielo.h) pressed at x.
     void SubBajHaPulsado(int i, int x);
     // One step of arrow pair `i` from the keyboard (-1 the left arrow).
     void PasoTecla(int i, int signo);
@@ -83,7 +83,7 @@ public:
     void AyudaContexto();
     // The information form of an object (none: nothing opens).
     void InformaObjeto(const ObjetoSenalado& objeto);
-    // The dialog button `k` released (1..9).
+    // The dialog button `k` released (boton::, IndicesCielo.h).
     void BotonSoltado(int k);
     // Push buttons 44 (animation dialog) and 45 (restore the work file).
     void PulsadorAccionado(int k);

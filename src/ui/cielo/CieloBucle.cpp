@@ -8,6 +8,7 @@
 #include "app/estado/Tiempo.h"
 #include "sky/proyeccion/Proyeccion.h"
 #include "ui/cielo/Cielo.h"
+#include "ui/cielo/IndicesCielo.h"
 #include "ui/cielo/Paneles.h"
 #include "ui/cielo/VistaCielo.h"
 #include "ui/controles/ControlDibujado.h"
@@ -51,23 +52,23 @@ void Cielo::PasoTecla(int i, int signo) {
     // A key is a short press: one step of the pair, lit and heard as a
     // step of the repeat, then the sky redrawn as after a release.
     if (RechazaTiempoReal(i)) return;
-    if (i == 5) {
-        SubBajHaPulsado(5, signo < 0 ? 12 : 35);
+    if (i == flechas::Animacion) {
+        SubBajHaPulsado(flechas::Animacion, signo < 0 ? 12 : 35);
         return;
     }
-    if (i == 4 && ((signo < 0 && e_.PasoDias > 0) || (signo > 0 && e_.PasoDias < 0))) e_.PasoDias = -e_.PasoDias;
+    if (i == flechas::Tiempo && ((signo < 0 && e_.PasoDias > 0) || (signo > 0 && e_.PasoDias < 0))) e_.PasoDias = -e_.PasoDias;
     controles::SubBaj* s = subbaj_[static_cast<std::size_t>(i)];
     s->dibuja(signo < 0 ? 1 : 0);
     controles::Suena(controles_, 1, 4);
     PasoVista(i, signo);
     s->dibuja(-1);
-    if (i == 3) RecalculaCuerpos();
-    if (i == 3 || i == 4) vista_->ActualizaCielo();
+    if (i == flechas::Zoom) RecalculaCuerpos();
+    if (i == flechas::Zoom || i == flechas::Tiempo) vista_->ActualizaCielo();
 }
 
 void Cielo::PasoVista(int i, int signo) {
     switch (i) {
-        case 1: {  // direction: from 359 degrees upward the next is 1, never 0
+        case flechas::Direccion: {  // direction: from 359 degrees upward the next is 1, never 0
             double d = e_.Direccion + signo * PASO_GRADO;
             if (d < 0)
                 d = DOS_PI - PASO_GRADO;
@@ -77,7 +78,7 @@ void Cielo::PasoVista(int i, int signo) {
             vista_->DibujaCielo();
             break;
         }
-        case 2: {
+        case flechas::Elevacion: {
             double a = e_.Elevacion + signo * PASO_GRADO;
             if (a < 0) a = 0;
             if (a > MEDIO_PI) a = MEDIO_PI;
@@ -85,7 +86,7 @@ void Cielo::PasoVista(int i, int signo) {
             vista_->DibujaCielo();
             break;
         }
-        case 3: {
+        case flechas::Zoom: {
             float z = e_.Zoom + static_cast<float>(signo * 0.5);
             if (z < 1.0f) z = 1.0f;
             if (z > 15.0f) z = 15.0f;
@@ -93,10 +94,10 @@ void Cielo::PasoVista(int i, int signo) {
             vista_->DibujaCielo();
             break;
         }
-        case 4:
+        case flechas::Tiempo:
             AvanzaTiempo(e_, c_.TablaPlanetas);
             break;
-        case 5:
+        case flechas::Animacion:
             controles::Espera(controles_, 60);
             ventana_.Enganche = true;
             AvanzaTiempo(e_, c_.TablaPlanetas);
@@ -108,7 +109,7 @@ void Cielo::PasoVista(int i, int signo) {
 }
 
 void Cielo::SubBajHaPulsado(int i, int x) {
-    if (i == 5) {
+    if (i == flechas::Animacion) {
         // A second press on the animation arrows stops a running animation.
         ventana_.Sujecion = !ventana_.Sujecion;
         ventana_.Enganche = ventana_.Sujecion;
@@ -119,7 +120,7 @@ void Cielo::SubBajHaPulsado(int i, int x) {
     }
     const int lado = x < 33 ? 1 : 0;
     const int signo = lado == 1 ? -1 : 1;
-    if ((i == 4 || i == 5) && ((lado == 1 && e_.PasoDias > 0) || (lado == 0 && e_.PasoDias < 0)))
+    if ((i == flechas::Tiempo || i == flechas::Animacion) && ((lado == 1 && e_.PasoDias > 0) || (lado == 0 && e_.PasoDias < 0)))
         e_.PasoDias = -e_.PasoDias;
     controles::SubBaj* s = subbaj_[static_cast<std::size_t>(i)];
     while (ventana_.Sujecion) {
@@ -131,7 +132,7 @@ void Cielo::SubBajHaPulsado(int i, int x) {
         controles::Espera(controles_, 40);
         controles::AtiendeEventos();
     }
-    if (i == 3) RecalculaCuerpos();
+    if (i == flechas::Zoom) RecalculaCuerpos();
     vista_->ActualizaCielo();
 }
 

@@ -1,4 +1,5 @@
 #include "ui/cielo/IconosBotones.h"
+#include "ui/cielo/IndicesCielo.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -127,14 +128,14 @@ QPixmap IconoBoton(int indice, bool pulsado) {
     if (pulsado) p.translate(1, 1);
     p.setPen(QPen(Qt::black, 1));
     switch (indice) {
-        case 1: Configuraciones(p); break;
-        case 2: Personalizar(p); break;
-        case 3: Localizacion(p); break;
-        case 4: FechaHora(p); break;
-        case 5: Objetos(p); break;
-        case 6: Buscar(p); break;
-        case 7: Imprimir(p); break;
-        case 8: Ayuda(p); break;
+        case boton::Configuraciones: Configuraciones(p); break;
+        case boton::Personalizar: Personalizar(p); break;
+        case boton::Localizacion: Localizacion(p); break;
+        case boton::FechaHora: FechaHora(p); break;
+        case boton::Objetos: Objetos(p); break;
+        case boton::Buscar: Buscar(p); break;
+        case boton::Imprimir: Imprimir(p); break;
+        case boton::Ayuda: Ayuda(p); break;
         default: Salir(p); break;
     }
     return px;
