@@ -185,6 +185,7 @@ void BM_ProyeccionEstrellas(benchmark::State& st) {
     e.TiempoSidereo = 1.0;
     GiraDireccion(e);
     AjustaEscala(e, 1024, 768);
+    PreparaProyeccion(e);  // as the pass and the window do before reading object by object
     for (auto _ : st) {
         int visibles = 0;
         for (int i = 0; i < N_ESTRELLAS; ++i) visibles += EsVisible(e, ProyectaPunto(e, c.TablaEstrellas[static_cast<std::size_t>(i)].Direccion));

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "app/estado/Astros.h"
@@ -119,6 +120,15 @@ Errores ErroresCuerpo(const TablaPlanetas& t, int indice, double lo, double hi) 
 }
 
 }  // namespace
+
+// The setters are the only way in: writing a field that has one, or
+// copying it from another state, does not compile; a whole state still
+// copies over another.
+template <class E>
+concept EscrituraDirecta = requires(E& e, const E& otro) { e.FechaJuliana = 2451545.0; } ||
+                           requires(E& e, const E& otro) { e.Latitud = otro.Latitud; } ||
+                           requires(E& e) { e.Zoom = 3.0f; } || requires(E& e) { e.Direccion += 0.1; };
+static_assert(!EscrituraDirecta<Estado> && std::is_copy_assignable_v<Estado>);
 
 // Local sidereal time against GMST (IAU 2006) plus the east longitude. The
 // program's cycle adds Longitud / 2pi days to the date it takes the mean

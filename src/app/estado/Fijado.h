@@ -27,6 +27,7 @@ class LlaveEstado {
 template <class T>
 class Fijado {
 public:
+    Fijado(const Fijado&) = default;
     constexpr operator T() const { return valor_; }
     void Fija(LlaveEstado, T valor) { valor_ = valor; }
     // The field itself, for the configuration items' table.
@@ -40,10 +41,6 @@ private:
     constexpr explicit Fijado(T valor) : valor_(valor) {}
     Fijado& operator=(const Fijado&) = default;
 
-public:
-    Fijado(const Fijado&) = default;
-
-private:
     T valor_;
 };
 

@@ -29,6 +29,9 @@ struct ObjetoSenalado {
 //          reach in user units.
 //   Returns the nearest object drawn within `radio` of the point (a body
 //   within its disc counts as hit), or clase Ninguno.
+//   Fast when the state's projection is prepared (PreparaProyeccion, as
+//   after a pass): each object then costs its products only; otherwise every
+//   object works out the rotations again (same answer, far slower).
 ObjetoSenalado ObjetoBajo(const Estado& e, const Catalogos& c, float X, float Y, float radio);
 
 // The lines that describe an object (Windows-1252): first its designation
