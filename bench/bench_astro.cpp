@@ -4,6 +4,7 @@
 #include <random>
 #include <vector>
 
+#include "app/estado/Astros.h"
 #include "app/estado/Estado.h"
 #include "app/estado/Rotaciones.h"
 #include "app/estado/Tiempo.h"
@@ -46,7 +47,7 @@ void BM_PrecesionYHorizonte(benchmark::State& s) {
     FijaFechaJuliana(e, TablaPlanetas{}, 2460000.5);  // the refresh needs no elements here
     e.Precesion = true;
     HallaPrecesion(e);
-    e.TiempoSidereo = 1.234;
+    FijaTiempoSidereo(e, 1.234);
     PreparaPrecesion(e);  // per star, the cached rotations only
     PreparaHorizonte(e);
     std::mt19937 gen(7);

@@ -12,6 +12,7 @@
 #include <cstdlib>
 
 #include "app/base/Constantes.h"
+#include "app/estado/Astros.h"
 #include "app/estado/Rotaciones.h"
 #include "astro/Coordenadas.h"
 #include "app/estado/Tiempo.h"
@@ -181,8 +182,8 @@ void BM_ProyeccionEstrellas(benchmark::State& st) {
     const Catalogos& c = Datos();
     Estado e = TodoEncendido();
     e.Precesion = true;
-    e.PrecZeta = 0.001, e.PrecZ = 0.001, e.PrecTheta = 0.0009;
-    e.TiempoSidereo = 1.0;
+    FijaFechaJuliana(e, TablaPlanetas{}, 2454832.5);  // 2009: precession angles of about 0.0004 rad
+    FijaTiempoSidereo(e, 1.0);
     GiraDireccion(e);
     AjustaEscala(e, 1024, 768);
     PreparaProyeccion(e);  // as the pass and the window do before reading object by object

@@ -333,7 +333,7 @@ private:
         }};
         o["Umbral"] = {2, [](Argumentos& a, Estado& e, Resultado& r) {
             const float zoom = a.F();
-            e.Orientacion = a.I();
+            FijaOrientacion(e, a.I());
             FijaZoom(e, zoom);  // a fresh state: the scale without a picture
             r.F(e.Umbral);
         }};
@@ -358,7 +358,7 @@ private:
         Observador o = ObservadorDe(e);
         o.Latitud = a.D();
         FijaLugar(e, vacia_, o);
-        e.TiempoSidereo = sidereo;
+        FijaTiempoSidereo(e, sidereo);
         const double direccion = a.D();
         FijaVista(e, direccion, a.D());
         e.Precesion = false;

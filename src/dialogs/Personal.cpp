@@ -6,6 +6,7 @@
 
 #include "app/base/Constantes.h"
 #include "app/base/TablasControles.h"
+#include "app/estado/Vista.h"
 #include "config/Preferencias.h"
 #include "ui/controles/Estilo.h"
 #include "ui/controles/Interruptor.h"
@@ -46,7 +47,7 @@ Personal::Personal(ContextoDialogo& ctx) : MarcoOpciones(ctx, "Personalizar", "P
                                 {Etiqueta(control::CieloNormal), Etiqueta(control::CieloInvertido)});
     orientacion_->setEleccion(e.Orientacion == 1 ? 1 : 2);
     connect(orientacion_, &Selector::eleccionCambiada, this, [this, &e](int eleccion) {
-        e.Orientacion = static_cast<int16_t>(eleccion == 1 ? 1 : 2);
+        FijaOrientacion(e, static_cast<int16_t>(eleccion == 1 ? 1 : 2));
         if (ctx_.DibujaCielo) ctx_.DibujaCielo();
     });
     cielo->contenido()->addWidget(orientacion_);

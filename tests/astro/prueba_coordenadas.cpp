@@ -75,7 +75,7 @@ TEST(Coordenadas, EclipticAndHorizon) {
     for (int i = 0; i < 2000; ++i) {
         const double sidereo = u(gen);
         FijaLatitud(e, ud(gen));
-        e.TiempoSidereo = sidereo;
+        FijaTiempoSidereo(e, sidereo);
         double a = u(gen), d = ud(gen);
         Vector3f h = EcuatorialAHorizontal(e, AngulosAVector(a, d));
         double H = e.TiempoSidereo - a;  // hour angle
@@ -84,7 +84,7 @@ TEST(Coordenadas, EclipticAndHorizon) {
         EXPECT_NEAR(h.x, std::cos(d) * std::sin(H), 1e-6);  // toward the west
     }
     FijaLatitud(e, 0.7);
-    e.TiempoSidereo = 2.0;
+    FijaTiempoSidereo(e, 2.0);
     Vector3f polo = EcuatorialAHorizontal(e, {0, 1, 0});
     EXPECT_NEAR(polo.z, std::sin(0.7), 1e-7);
     EXPECT_NEAR(polo.y, std::cos(0.7), 1e-7);
@@ -94,7 +94,7 @@ TEST(Coordenadas, EclipticAndHorizon) {
 TEST(Proyeccion, CentreThresholdAndInverse) {
     Estado e;
     FijaLatitud(e, 0.64);
-    e.TiempoSidereo = 1.1;
+    FijaTiempoSidereo(e, 1.1);
     FijaVista(e, 2.0, 0.5);
     // The direction at the centre of view from its azimuth (north through
     // east) and altitude; x of the horizon frame points west.

@@ -121,13 +121,16 @@ Errores ErroresCuerpo(const TablaPlanetas& t, int indice, double lo, double hi) 
 
 }  // namespace
 
-// The setters are the only way in: writing a field that has one, or
+// The setters are the only way in: writing a field that has one (or a value
+// derived from such fields, which only its refresh writes), or
 // copying it from another state, does not compile; a whole state still
 // copies over another.
 template <class E>
 concept EscrituraDirecta = requires(E& e, const E& otro) { e.FechaJuliana = 2451545.0; } ||
                            requires(E& e, const E& otro) { e.Latitud = otro.Latitud; } ||
-                           requires(E& e) { e.Zoom = 3.0f; } || requires(E& e) { e.Direccion += 0.1; };
+                           requires(E& e) { e.Zoom = 3.0f; } || requires(E& e) { e.Direccion += 0.1; } ||
+                           requires(E& e) { e.TiempoSidereo = 1.0; } || requires(E& e) { e.EscalaAncho = 2.0f; } ||
+                           requires(E& e) { e.Orientacion = int16_t{2}; };
 static_assert(!EscrituraDirecta<Estado> && std::is_copy_assignable_v<Estado>);
 
 // Local sidereal time against GMST (IAU 2006) plus the east longitude. The

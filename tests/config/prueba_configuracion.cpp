@@ -107,7 +107,7 @@ Estado EstadoPoblado() {
     e.AltoMm = 50;
     e.PanelCursor = true;
     e.FormatoHora = 2;
-    e.Orientacion = 2;
+    FijaOrientacion(e, 2);
     e.Precesion = true;
     e.CampoTelescopio = 30 / 57.29577951289617;
     e.Velocidad = 99;

@@ -14,6 +14,7 @@
 #include "astro/Planetas.h"
 #include "astro/Coordenadas.h"
 #include "app/estado/Tiempo.h"
+#include "app/estado/Vista.h"
 #include "catalogue/CargaCatalogos.h"
 #include "config/LeeConfiguracion.h"
 #include "sky/DibujaCielo.h"
@@ -258,7 +259,7 @@ TEST(Dibujo, TheMirroredSkyKeepsTrueAzimuths) {
     Lienzo l(800, 600);
     for (int16_t orientacion : {int16_t{1}, int16_t{0}}) {
         Estado e = Apagado();
-        e.Orientacion = orientacion;
+        FijaOrientacion(e, orientacion);
         FijaZoom(e, 2);
         ActualizaTiempo(e, Datos().TablaPlanetas);
         AjustaEscalaLienzo(e, l);

@@ -11,9 +11,11 @@ Observador ObservadorDe(const Estado& e) {
 }
 
 void HallaTiempoSidereo(Estado& e, const TablaPlanetas& planetas) {
-    e.TiempoSidereo = TiempoSidereoLocal(e.FechaJuliana, ObservadorDe(e), planetas[3]);
+    e.TiempoSidereo.Fija(LlaveEstado{}, TiempoSidereoLocal(e.FechaJuliana, ObservadorDe(e), planetas[3]));
     HallaSol(e, planetas);
 }
+
+void FijaTiempoSidereo(Estado& e, double sidereo) { e.TiempoSidereo.Fija(LlaveEstado{}, sidereo); }
 
 void HallaSol(Estado& e, const TablaPlanetas& planetas) {
     PosicionSol s = HallaSol(e.FechaJuliana, planetas[3]);

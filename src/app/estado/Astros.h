@@ -15,6 +15,11 @@ Observador ObservadorDe(const Estado& e);
 // with the Earth's record 3), then runs HallaSol.
 void HallaTiempoSidereo(Estado& e, const TablaPlanetas& planetas);
 
+// Sets TiempoSidereo as given, not derived from the instant and place: for
+// the calculator's operations and the tests that take a sidereal time as
+// their input. Nothing else in the program sets it this way.
+void FijaTiempoSidereo(Estado& e, double sidereo);
+
 // The Earth's longitude, equatorial angles and direction into Planetas[3]
 // (its screen point kept), and the Sun's direction into SolX and SolZ.
 void HallaSol(Estado& e, const TablaPlanetas& planetas);

@@ -8,8 +8,10 @@
 // the compiler holds every writer to them (app/estado/Fijado.h): the
 // instant is set with FijaFechaJuliana (the time refresh), the place, zone
 // and summer time with FijaLugar (the sidereal time), the view with
-// FijaVista (the turned azimuth) and the zoom with FijaZoom (the scale, for
-// the picture size of the last pass); the rendering pass refreshes all of
+// FijaVista (the turned azimuth), the zoom and the orientation with FijaZoom
+// and FijaOrientacion (the scale, for the picture size of the last pass);
+// the derived values themselves are written only by the refreshes that
+// derive them; the rendering pass refreshes all of
 // them once more before it draws. The caches of the projection are plain
 // fields filled through a writable state, never through a const one
 // (app/estado/Derivados.h).
@@ -75,10 +77,11 @@ struct Estado {
     Fijado<double> Latitud{0.640890002250671};    // radians, north positive
     std::string TextoLugar;
 
-    // Sky quantities derived from time and place.
-    double TiempoSidereo = 0;
+    // Sky quantities derived from time and place (the sidereal time and the
+    // precession angles written only by the refreshes that derive them).
+    Fijado<double> TiempoSidereo{0};
     bool Precesion = false;
-    double PrecZeta = 0, PrecZ = 0, PrecTheta = 0;
+    Fijado<double> PrecZeta{0}, PrecZ{0}, PrecTheta{0};
     double SolX = 0, SolZ = 0;
     std::array<PosicionCuerpo, 12> Planetas;  // index 3 Earth (the Sun's results), 10 Sun, 11 Moon
 
@@ -86,12 +89,14 @@ struct Estado {
     Fijado<double> Direccion{PI};  // looking south
     Fijado<double> Elevacion{ELEVACION_INICIAL};
     Fijado<float> Zoom{2.0f};
-    int16_t Orientacion = 1;
-    double DireccionGirada = 0;
-    float Umbral = 0;
-    // The user scale of the sky picture, as read back after being set.
-    float EscalaIzquierda = 0, EscalaSuperior = 0, EscalaAncho = 0, EscalaAlto = 0;
-    int AnchoImagen = 0, AltoImagen = 0;  // pixels of the picture the scale was set for (0: none)
+    Fijado<int16_t> Orientacion{1};  // 1 the sky as seen, 2 inverted (mirrored left to right)
+    // Derived from the view: the turned azimuth (GiraDireccion) and the user
+    // scale of the sky picture with its depth threshold (AjustaEscala), for
+    // the pixels of the picture the scale was set for (0: none).
+    Fijado<double> DireccionGirada{0};
+    Fijado<float> Umbral{0};
+    Fijado<float> EscalaIzquierda{0}, EscalaSuperior{0}, EscalaAncho{0}, EscalaAlto{0};
+    Fijado<int> AnchoImagen{0}, AltoImagen{0};
 
     // Star and constellation levels and identification choices, and the
     // detail levels of the deep-sky categories.

@@ -4,23 +4,37 @@
 // does not compile.
 #pragma once
 
+#include <cstdint>
+
 #include "catalogue/TablaPlanetas.h"
 
 namespace vedrano {
 
 struct Estado;
 
-// The permission to write a field with a setter. The setters are
-// FijaFechaJuliana and FijaLugar (app/estado/Tiempo.h), FijaVista and
-// FijaZoom (app/estado/Vista.h). The configuration reader also holds one:
-// it loads a whole situation item by item, and the pass that follows every
-// load refreshes what derives from it.
+// The permission to write a field with a setter. The setters of what the
+// user sets are FijaFechaJuliana and FijaLugar (app/estado/Tiempo.h),
+// FijaVista, FijaZoom and FijaOrientacion (app/estado/Vista.h). The values
+// derived from those are written only by the refreshes that derive them:
+// the sidereal time (HallaTiempoSidereo, ActualizaLugar), the precession
+// angles (HallaPrecesion), the turned azimuth (GiraDireccion) and the scale
+// (AjustaEscala); FijaTiempoSidereo gives the calculator a sidereal time of
+// its own. The configuration reader also holds one: it loads a whole
+// situation item by item, and the pass that follows every load refreshes
+// what derives from it.
 class LlaveEstado {
     LlaveEstado() = default;
     friend void FijaFechaJuliana(Estado&, const TablaPlanetas&, double);
     friend void FijaLugar(Estado&, const TablaPlanetas&, const Observador&);
     friend void FijaVista(Estado&, double, double);
     friend void FijaZoom(Estado&, float);
+    friend void FijaOrientacion(Estado&, int16_t);
+    friend void HallaTiempoSidereo(Estado&, const TablaPlanetas&);
+    friend void ActualizaLugar(Estado&, const TablaPlanetas&);
+    friend void FijaTiempoSidereo(Estado&, double);
+    friend void HallaPrecesion(Estado&);
+    friend void GiraDireccion(Estado&);
+    friend void AjustaEscala(Estado&, int, int);
     friend LlaveEstado LlaveLectorConfiguracion();
 };
 

@@ -8,9 +8,10 @@ namespace vedrano {
 
 void HallaPrecesion(Estado& e) {
     AngulosPrecesion a = HallaPrecesion(e.FechaJuliana);
-    e.PrecZeta = a.zeta;
-    e.PrecZ = a.z;
-    e.PrecTheta = a.theta;
+    const LlaveEstado llave;
+    e.PrecZeta.Fija(llave, a.zeta);
+    e.PrecZ.Fija(llave, a.z);
+    e.PrecTheta.Fija(llave, a.theta);
 }
 
 bool PrecesaCatalogo(const Estado& e) { return e.Precesion || e.Pref.PrecisionAlta; }

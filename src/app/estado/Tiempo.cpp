@@ -21,7 +21,7 @@ void ActualizaLugar(Estado& e, const TablaPlanetas& planetas) {
     HallaTiempoSidereo(e, planetas);
     // The precise model turns the sky by the apparent sidereal time; the
     // classic Sun of the table stays as it was computed.
-    if (e.Pref.PrecisionAlta) e.TiempoSidereo = TiempoSidereoAparente(e.FechaJuliana, e.Longitud);
+    if (e.Pref.PrecisionAlta) e.TiempoSidereo.Fija(LlaveEstado{}, TiempoSidereoAparente(e.FechaJuliana, e.Longitud));
 }
 
 void ActualizaTiempo(Estado& e, const TablaPlanetas& planetas) {

@@ -7,7 +7,7 @@
 
 namespace vedrano {
 
-void GiraDireccion(Estado& e) { e.DireccionGirada = e.Direccion - PI; }
+void GiraDireccion(Estado& e) { e.DireccionGirada.Fija(LlaveEstado{}, e.Direccion - PI); }
 
 void FijaVista(Estado& e, double direccion, double elevacion) {
     e.Direccion.Fija(LlaveEstado{}, direccion);
@@ -17,6 +17,11 @@ void FijaVista(Estado& e, double direccion, double elevacion) {
 
 void FijaZoom(Estado& e, float zoom) {
     e.Zoom.Fija(LlaveEstado{}, zoom);
+    AjustaEscala(e, e.AnchoImagen, e.AltoImagen);
+}
+
+void FijaOrientacion(Estado& e, int16_t orientacion) {
+    e.Orientacion.Fija(LlaveEstado{}, orientacion);
     AjustaEscala(e, e.AnchoImagen, e.AltoImagen);
 }
 
@@ -33,14 +38,15 @@ void AjustaEscala(Estado& e, int anchoPixeles, int altoPixeles) {
         else if (proporcion < base)
             alto = ASingle(-(3.4666667 / proporcion) / e.Zoom);
     }
-    e.AnchoImagen = anchoPixeles;
-    e.AltoImagen = altoPixeles;
-    e.EscalaAlto = alto;
-    e.EscalaAncho = ancho;
-    e.EscalaIzquierda = -e.EscalaAncho / 2;
-    e.EscalaSuperior = -e.EscalaAlto / 2;
+    const LlaveEstado llave;
+    e.AnchoImagen.Fija(llave, anchoPixeles);
+    e.AltoImagen.Fija(llave, altoPixeles);
+    e.EscalaAlto.Fija(llave, alto);
+    e.EscalaAncho.Fija(llave, ancho);
+    e.EscalaIzquierda.Fija(llave, -e.EscalaAncho / 2);
+    e.EscalaSuperior.Fija(llave, -e.EscalaAlto / 2);
     double q = 1.0 - double(e.EscalaIzquierda) * e.EscalaIzquierda - double(e.EscalaSuperior) * e.EscalaSuperior;
-    e.Umbral = q >= 0 ? static_cast<float>(std::sqrt(q)) : 0.0f;
+    e.Umbral.Fija(llave, q >= 0 ? static_cast<float>(std::sqrt(q)) : 0.0f);
 }
 
 }  // namespace vedrano

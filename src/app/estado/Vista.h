@@ -19,6 +19,10 @@ void FijaVista(Estado& e, double direccion, double elevacion);
 // scale again for the picture it draws.
 void FijaZoom(Estado& e, float zoom);
 
+// Sets the orientation (1 the sky as seen, 2 inverted) and the scale
+// for it, as FijaZoom does.
+void FijaOrientacion(Estado& e, int16_t orientacion);
+
 // The user scale from the zoom and the orientation flag, and the depth
 // threshold below which a point cannot fall inside the picture. With a
 // picture size the scale extends on the longer side so that one unit stays

@@ -6,29 +6,13 @@
 namespace vedrano {
 
 namespace boton {
-enum : int {
-    Configuraciones = 1,
-    Personalizar = 2,
-    Localizacion = 3,
-    FechaHora = 4,
-    Objetos = 5,
-    Buscar = 6,
-    Imprimir = 7,
-    Ayuda = 8,
-    Salir = 9,
-};
-constexpr int NUM = 9;
+enum : int { Configuraciones = 1, Personalizar, Localizacion, FechaHora, Objetos, Buscar, Imprimir, Ayuda, Salir };
+constexpr int NUM = Salir;
 }  // namespace boton
 
 namespace flechas {
-enum : int {
-    Direccion = 1,
-    Elevacion = 2,
-    Zoom = 3,
-    Tiempo = 4,
-    Animacion = 5,
-};
-constexpr int NUM = 5;
+enum : int { Direccion = 1, Elevacion, Zoom, Tiempo, Animacion };
+constexpr int NUM = Animacion;
 }  // namespace flechas
 
 }  // namespace vedrano
