@@ -20,8 +20,8 @@ bool Encendido(int16_t interruptor) { return interruptor != 0; }
 
 }  // namespace
 
-void ActualizaPanel(Estado& e) {
-    PanelInformacion& p = e.Panel;
+PanelInformacion TextosPanel(Estado& e) {
+    PanelInformacion p;
     p.Direccion = A1252(" Dirección = ") + TextoDireccion(e.Direccion);
     p.Elevacion = A1252(" Elevación = ") + TextoGrados(e.Elevacion);
     p.Zoom = " Zoom = " + plataforma::NumeroLocal(Formato(e.Zoom, "#0.0"));
@@ -33,6 +33,7 @@ void ActualizaPanel(Estado& e) {
     p.DiaJuliano = "D. J. = " + plataforma::NumeroLocal(e.TextoDiaJuliano);
     // The precise model says its name beside the date it was computed for.
     if (e.Pref.PrecisionAlta) p.DiaJuliano += A1252("    Precisión alta");
+    return p;
 }
 
 void AjustaEscalaLienzo(Estado& e, Lienzo& l) {
@@ -135,7 +136,7 @@ void DibujaCapas(Contexto& x) {
 
 }  // namespace
 
-void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l, const OpcionesDibujo& o) {
+PanelInformacion DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l, const OpcionesDibujo& o) {
     PreparaProyeccion(e);
     Contexto x{e, c, l, PreparaVistas(e), o};
     // The daylight colour is the background of the one clear of the pass.
@@ -159,17 +160,17 @@ void DibujaCielo(Estado& e, const Catalogos& c, Lienzo& l, const OpcionesDibujo&
     l.FijaFondo(fondo);
     DibujaCapas(x);
     l.Vacia();
-    ActualizaPanel(e);
     // The pass erased any cursor mark.
     e.MarcaVisible = false;
+    return TextosPanel(e);
 }
 
-void ActualizaCielo(Estado& e, const Catalogos& c, Lienzo& l, const OpcionesDibujo& o) {
+PanelInformacion ActualizaCielo(Estado& e, const Catalogos& c, Lienzo& l, const OpcionesDibujo& o) {
     ActualizaTiempo(e, c.TablaPlanetas);
     if (e.ActualizarSistemaSolar) HallaSistemaSolar(e, c.TablaPlanetas);
     AjustaEscalaLienzo(e, l);
     GiraDireccion(e);
-    DibujaCielo(e, c, l, o);
+    return DibujaCielo(e, c, l, o);
 }
 
 }  // namespace vedrano

@@ -38,7 +38,7 @@ QImage ImagenParaTinta(const QImage& cielo) {
 }
 
 QStringList LineasTitulo(Estado& e) {
-    ActualizaPanel(e);
+    const PanelInformacion p = TextosPanel(e);
     QStringList lineas;
     if (e.DatosLocalizacion) {
         lineas << QStringLiteral("%1    Longitud: %2    Latitud: %3")
@@ -49,10 +49,10 @@ QStringList LineasTitulo(Estado& e) {
     QString zona = QString::number(e.ZonaHoraria, 'f', 1).replace('.', ',');
     if (e.ZonaHoraria >= 0) zona.prepend('+');
     lineas << QStringLiteral("Fecha local: %1  %2 (zona %3%4)    %5  %6    %7")
-                  .arg(Utf8(e.Panel.FechaLocal).remove(QStringLiteral("F. L. = ")), Utf8(e.Panel.HoraLocal), zona,
-                       e.HorarioVerano ? QStringLiteral(", horario de verano") : QString(), Utf8(e.Panel.FechaUniversal),
-                       Utf8(e.Panel.HoraUniversal), Utf8(e.Panel.DiaJuliano));
-    lineas << QStringLiteral("%1    %2    %3").arg(Utf8(e.Panel.Direccion), Utf8(e.Panel.Elevacion), Utf8(e.Panel.Zoom));
+                  .arg(Utf8(p.FechaLocal).remove(QStringLiteral("F. L. = ")), Utf8(p.HoraLocal), zona,
+                       e.HorarioVerano ? QStringLiteral(", horario de verano") : QString(), Utf8(p.FechaUniversal),
+                       Utf8(p.HoraUniversal), Utf8(p.DiaJuliano));
+    lineas << QStringLiteral("%1    %2    %3").arg(Utf8(p.Direccion), Utf8(p.Elevacion), Utf8(p.Zoom));
     return lineas;
 }
 

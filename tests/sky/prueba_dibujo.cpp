@@ -72,7 +72,7 @@ int PixelesEncendidos(const QImage& img) {
     return n;
 }
 
-void Dibuja(Estado& e, Lienzo& l) { ActualizaCielo(e, Datos(), l); }
+PanelInformacion Dibuja(Estado& e, Lienzo& l) { return ActualizaCielo(e, Datos(), l); }
 
 // Turns the view toward an equatorial direction of the date.
 void MiraA(Estado& e, const Vector3f& v, float zoom) {
@@ -88,9 +88,8 @@ void MiraA(Estado& e, const Vector3f& v, float zoom) {
 TEST(Dibujo, LayersOffGiveABlackPictureAndEachLayerDrawsAlone) {
     Lienzo l(400, 300);
     Estado e = Apagado();
-    Dibuja(e, l);
+    EXPECT_FALSE(Dibuja(e, l).DiaJuliano.empty());
     EXPECT_EQ(PixelesEncendidos(l.Imagen()), 0);
-    EXPECT_FALSE(e.Panel.DiaJuliano.empty());
 
     auto conCapa = [&](auto enciende) {
         Estado s = Apagado();

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QTimer>
 #include <QWidget>
+#include <gtest/gtest.h>
 
 namespace pruebas {
 
@@ -34,6 +35,16 @@ inline void Clic(QWidget* w, QPoint p, Qt::MouseButton boton = Qt::LeftButton) {
 
 // A click in the middle of a widget.
 inline void Pulsa(QWidget* w) { Clic(w, QPoint(w->width() / 2, w->height() / 2)); }
+
+// The text shown by the field of type Campo named `nombre` (its accessible
+// name) inside `ventana`; empty, and a failure, when there is none.
+template <class Campo>
+QString TextoCampo(const QWidget& ventana, const char* nombre) {
+    for (const Campo* f : ventana.findChildren<Campo*>())
+        if (f->accessibleName() == QString::fromUtf8(nombre)) return f->Texto();
+    ADD_FAILURE() << "no hay campo " << nombre;
+    return {};
+}
 
 // Runs `accion` on the first modal window of type T that comes up.
 template <class T>

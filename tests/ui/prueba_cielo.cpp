@@ -18,6 +18,7 @@
 #include "catalogue/CargaCatalogos.h"
 #include "dialogs/piezas/Mensajes.h"
 #include "ui/cielo/Cielo.h"
+#include "ui/cielo/Paneles.h"
 #include "ui/cielo/IndicesCielo.h"
 #include "ui/controles/SubBaj.h"
 
@@ -113,7 +114,7 @@ TEST(Cielo, TimeArrowsStepAndAreRefusedInRealTime) {
     std::string trasPrimerPaso;
     int siestas = 0;
     v.falsos.reloj.alDormir = [&](int) {
-        if (++siestas == 2) trasPrimerPaso = v.e.Panel.DiaJuliano;
+        if (++siestas == 2) trasPrimerPaso = pruebas::TextoCampo<CampoInfo>(*v.cielo, "Día juliano").toStdString();
         if (siestas >= 4) v.ventana().Sujecion = false;
     };
     v.k.CursorActual = cursor::ManoIndice;

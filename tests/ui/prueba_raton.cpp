@@ -15,6 +15,7 @@
 #include "catalogue/CargaCatalogos.h"
 #include "sky/apunta/Apunta.h"
 #include "ui/cielo/Cielo.h"
+#include "ui/cielo/Paneles.h"
 #include "ui/cielo/VistaCielo.h"
 
 using namespace vedrano;
@@ -96,7 +97,7 @@ TEST(Raton, WheelZoomsByTheStepAboutThePointerWithinLimits) {
     for (int k = 0; k < 40; ++k) v.Rueda(p, -120);
     EXPECT_FLOAT_EQ(v.e.Zoom, 1.0f);
     // The zoom field follows at once.
-    EXPECT_EQ(v.e.Panel.Zoom, " Zoom = 1,0");
+    EXPECT_EQ(pruebas::TextoCampo<CampoInfo>(*v.cielo, "Zoom"), QStringLiteral(" Zoom = 1,0"));
 }
 
 TEST(Raton, DragTurnsTheViewKeepsTheGripAndIsNoClick) {

@@ -46,12 +46,6 @@ struct Interruptores {
     int16_t Horiz = 1, Eclip = 0, LimCo = 0, LuzDi = 0, ViaLa = 0, Messi = 0;
 };
 
-// The texts of the information panel, as the main window shows them.
-struct PanelInformacion {
-    std::string Direccion, Elevacion, Zoom;
-    std::string FechaUniversal, HoraUniversal, FechaLocal, HoraLocal, DiaJuliano;
-};
-
 struct Estado {
     // Time.
     // FechaJuliana, the place and its zone, the view and the zoom are set
@@ -120,11 +114,10 @@ struct Estado {
     double CampoTelescopio = CAMPO_TELESCOPIO_INICIAL;  // the telescope circle's angle, radians
 
     // Drawing: the colours of the four star kinds (&HBBGGRR: ordinary,
-    // variable, multiple, both), whether the Sun, Moon and planets are
-    // recomputed with the scale, and the panel texts of the last pass.
+    // variable, multiple, both) and whether the Sun, Moon and planets are
+    // recomputed with the scale.
     std::array<unsigned long, 4> ColoresEstrellas{0xFFFFFF, 0x60B0FF, 0xFFE0A0, 0x90FF90};
     bool ActualizarSistemaSolar = true;
-    PanelInformacion Panel;
 
     // Pointing.
     double ObjetivoAR = 0, ObjetivoDEC = 0;

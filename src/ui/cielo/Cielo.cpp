@@ -202,8 +202,7 @@ void Cielo::DibujaCielo() {
 void Cielo::RefrescaCampos() {
     // The texts follow the state even between passes (the time arrows step
     // the date without redrawing the sky).
-    ActualizaPanel(e_);
-    const PanelInformacion& p = e_.Panel;
+    const PanelInformacion p = TextosPanel(e_);
     fecJul_->FijaTexto(Q(p.DiaJuliano));
     fecUni_->FijaTexto(Q(p.FechaUniversal));
     horUni_->FijaTexto(Q(p.HoraUniversal));
