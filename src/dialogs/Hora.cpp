@@ -12,6 +12,7 @@
 #include "app/estado/Astros.h"
 #include "app/estado/Tiempo.h"
 #include "app/acciones/HoraReglas.h"
+#include "platform/NumerosLocales.h"
 #include "platform/Reloj.h"
 #include "ui/controles/Estilo.h"
 #include "ui/controles/Interruptor.h"
@@ -177,7 +178,9 @@ void Hora::muestra() {
         campos_[k][ANO]->setText(Texto(f.Ano));
         campos_[k][HORA]->setText(Texto(f.Hora));
     }
-    juliano_->setText(Texto(e.TextoDiaJuliano));
+    // Shown with the decimal comma, as the main window shows it; the field
+    // reads back either separator.
+    juliano_->setText(Texto(plataforma::NumeroLocal(e.TextoDiaJuliano)));
     zona_->setValor(e.ZonaHoraria);
     verano_->setEncendido(e.HorarioVerano);
 }

@@ -184,6 +184,7 @@ TEST_F(FormaHora, EntradasMalas) {
     Escribe(h.juliano(), "2451545,5");
     EXPECT_EQ(h.dia(0)->text(), "02");
     EXPECT_EQ(h.hora(0)->text(), "00:00");
+    EXPECT_EQ(h.juliano()->text(), "2451545,500000");  // as the main window's panel shows it
     Escribe(h.juliano(), "1e30");
     EXPECT_EQ(h.ano(0)->text().trimmed(), "7999");
     EXPECT_EQ(h.hora(0)->text(), "23:59");
