@@ -1,6 +1,7 @@
 // Format pictures and the run-time's numeric rules.
 #include <gtest/gtest.h>
 
+#include "../Ayudas.h"
 #include "app/base/Aritmetica.h"
 #include "app/base/Formato.h"
 #include "app/base/Texto1252.h"
@@ -44,12 +45,7 @@ TEST(Aritmetica, RoundingOverflowAndVal) {
     EXPECT_DOUBLE_EQ(Val(""), 0);
     EXPECT_DOUBLE_EQ(Val("-"), 0);
     EXPECT_DOUBLE_EQ(Val("-4713"), -4713);
-    try {
-        Divide(1, 0);
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.numero(), 11);
-    }
+    EXPECT_EQ(pruebas::ErrorDe([] { Divide(1, 0); }), 11);
 }
 
 TEST(Texto1252, RoundTripAndPositions) {

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "app/base/ErrorEjecucion.h"
+#include "../Ayudas.h"
 #include "app/base/Formato.h"
 #include "app/base/TablasControles.h"
 
@@ -12,22 +12,15 @@ using namespace vedrano;
 
 namespace {
 
-int Error(auto&& f) {
-    try {
-        f();
-    } catch (const ErrorEjecucion& e) {
-        return e.numero();
-    }
-    return 0;
-}
+using pruebas::ErrorDe;
 
 TEST(TablasControles, Limites) {
-    EXPECT_EQ(Error([] { Etiqueta(51); }), 9);
-    EXPECT_EQ(Error([] { Etiqueta(-1); }), 9);
-    EXPECT_EQ(Error([] { FormatoIndice(41); }), 9);
-    EXPECT_EQ(Error([] { FormatoIndice(-1); }), 9);
-    EXPECT_EQ(Error([] { Etiqueta(50); }), 0);
-    EXPECT_EQ(Error([] { FormatoIndice(40); }), 0);
+    EXPECT_EQ(ErrorDe([] { Etiqueta(51); }), 9);
+    EXPECT_EQ(ErrorDe([] { Etiqueta(-1); }), 9);
+    EXPECT_EQ(ErrorDe([] { FormatoIndice(41); }), 9);
+    EXPECT_EQ(ErrorDe([] { FormatoIndice(-1); }), 9);
+    EXPECT_EQ(ErrorDe([] { Etiqueta(50); }), 0);
+    EXPECT_EQ(ErrorDe([] { FormatoIndice(40); }), 0);
 }
 
 TEST(TablasControles, EntradasConNumeroFijo) {

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <random>
 
+#include "../Ayudas.h"
 #include "app/base/ErrorEjecucion.h"
 #include "app/estado/Astros.h"
 #include "app/estado/Rotaciones.h"
@@ -30,12 +31,7 @@ TEST(Coordenadas, ArcTangentQuadrantsAndErrors) {
     EXPECT_EQ(ArcoTangente(0, 1), 0);
     EXPECT_DOUBLE_EQ(ArcoTangente(1, -1), std::atan(-1.0) + 3.1415926536);
     EXPECT_NEAR(ArcoTangente(-1, 1), 7 * M_PI / 4, 1e-9);
-    try {
-        ArcoTangente(1, 0);
-        FAIL();
-    } catch (const ErrorEjecucion& e) {
-        EXPECT_EQ(e.numero(), 11);
-    }
+    EXPECT_EQ(pruebas::ErrorDe([] { ArcoTangente(1, 0); }), 11);
 }
 
 TEST(Coordenadas, VectorsAndAnglesRoundTrip) {

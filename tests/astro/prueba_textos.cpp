@@ -4,6 +4,7 @@
 #include <cmath>
 #include <random>
 
+#include "../Ayudas.h"
 #include "app/base/ErrorEjecucion.h"
 #include "app/base/Texto1252.h"
 #include "app/base/TextosAngulo.h"
@@ -54,12 +55,7 @@ TEST(TextosAngulo, CompassAndDegrees) {
         if (std::fmod(g + 22.5, 45) == 0) continue;  // borders depend on 32-bit rounding
         EXPECT_EQ(TextoDireccion(g * kGrado).substr(5), sectores[k]) << g;
     }
-    try {
-        TextoDireccion(-0.5);
-        FAIL();
-    } catch (const ErrorEjecucion& err) {
-        EXPECT_EQ(err.numero(), 5);
-    }
+    EXPECT_EQ(pruebas::ErrorDe([] { TextoDireccion(-0.5); }), 5);
     EXPECT_EQ(U(TextoGrados(45 * kGrado)), "45°");
     EXPECT_EQ(U(TextoGrados(-5 * kGrado)), "-5°");
 }

@@ -12,8 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include <unistd.h>
-
+#include "../Ayudas.h"
 #include "catalogue/CargaCatalogos.h"
 
 namespace {
@@ -21,18 +20,7 @@ namespace {
 using namespace vedrano;
 namespace fs = std::filesystem;
 
-struct Avisos : InterfazMensajes {
-    std::vector<std::pair<std::string, std::string>> recibidos;
-    int16_t Mensaje(const std::string& texto, const std::string& titulo, int16_t, int16_t) override {
-        recibidos.emplace_back(texto, titulo);
-        return 1;
-    }
-    std::vector<std::string> Textos() const {
-        std::vector<std::string> t;
-        for (const auto& [texto, titulo] : recibidos) t.push_back(texto);
-        return t;
-    }
-};
+using Avisos = pruebas::Anota;
 
 // One record's bytes, field by field, little-endian.
 struct Bytes {
@@ -58,11 +46,8 @@ struct Bytes {
 
 class Carpeta : public ::testing::Test {
 protected:
-    fs::path dir = fs::temp_directory_path() /
-                   ("vedrano_carga_" + std::to_string(::getpid()) + "_" +
-                    ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    void SetUp() override { fs::create_directories(dir); }
-    void TearDown() override { fs::remove_all(dir); }
+    pruebas::CarpetaPrueba carpeta{"vedrano_carga"};
+    const fs::path& dir = carpeta.ruta;
     void Escribe(const std::string& nombre, const std::string& bytes) {
         std::ofstream(dir / nombre, std::ios::binary) << bytes;
     }
@@ -143,9 +128,7 @@ TEST_F(Carpeta, LineasDeMessierCieloProfundoYExoticos) {
 TEST_F(Carpeta, SinVDRDAT1SeAvisaYElRestoCarga) {
     CopiaDatos();
     fs::remove(dir / "VDRDAT1.DAT");
-    auto completo = std::make_unique<Catalogos>();
-    Avisos sinAvisos;
-    CargaCatalogos(VEDRANO_DATOS, *completo, sinAvisos);
+    const Catalogos* completo = &pruebas::CatalogosDatos();
     Carga();
 
     // The open, then the read and the close of a file that is not open;
@@ -153,7 +136,7 @@ TEST_F(Carpeta, SinVDRDAT1SeAvisaYElRestoCarga) {
     const std::string ruta = "\r\n" + (dir / "VDRDAT1.DAT").string();
     EXPECT_EQ(avisos.Textos(), (std::vector<std::string>{"ERROR CTA53: No existe el fichero" + ruta,
                                                          "ERROR CTA52" + ruta, "ERROR CTA52" + ruta}));
-    for (const auto& [texto, titulo] : avisos.recibidos) EXPECT_EQ(titulo, "Cargando datos iniciales");
+    for (const auto& m : avisos.vistos) EXPECT_EQ(m.titulo, "Cargando datos iniciales");
     EXPECT_EQ(c->TablaEstrellas[0].Magnitud, 0.0f);
     EXPECT_EQ(c->TablaEstrellas[26519].Direccion.z, 0.0f);
     EXPECT_EQ(c->Listas.Estrellas, completo->Listas.Estrellas);
@@ -174,17 +157,13 @@ TEST_F(Carpeta, FicherosCortosOEstropeadosNoRompenNada) {
     ASSERT_EQ(ficheros.size(), 18u);
     std::mt19937 azar(20240611);
     for (const fs::path& f : ficheros) {
-        std::string original;
-        {
-            std::ifstream e(f, std::ios::binary);
-            original.assign(std::istreambuf_iterator<char>(e), {});
-        }
+        const std::string original = pruebas::LeeArchivo(f);
         std::string ruido(original.size(), '\0');
         for (char& ch : ruido) ch = static_cast<char>(azar());
         for (const std::string& version : {original.substr(0, original.size() / 3 + 5), std::string(), ruido}) {
             Escribe(f.filename().string(), version);
             c = std::make_unique<Catalogos>();
-            avisos.recibidos.clear();
+            avisos.vistos.clear();
             ASSERT_NO_THROW(Carga()) << f.filename();
             EXPECT_LE(c->Listas.Estrellas.size(), 1483u);
             EXPECT_LE(c->Listas.Galaxias.size(), 1234u);
@@ -201,7 +180,7 @@ TEST_F(Carpeta, FicherosCortosOEstropeadosNoRompenNada) {
     }
     Escribe("VDRDATH.DAT", std::string(28 * 10 + 13, 'x'));
     c = std::make_unique<Catalogos>();
-    avisos.recibidos.clear();
+    avisos.vistos.clear();
     Carga();
     EXPECT_EQ(avisos.Textos(),
               std::vector<std::string>{"ERROR CTA62: Faltan datos en el fichero\r\n" + (dir / "VDRDATH.DAT").string()});
@@ -215,7 +194,7 @@ TEST(CargaDatos, LosDatosDelProgramaCarganSinAvisos) {
     auto c = std::make_unique<Catalogos>();
     Avisos avisos;
     CargaCatalogos(VEDRANO_DATOS, *c, avisos);
-    EXPECT_TRUE(avisos.recibidos.empty());
+    EXPECT_TRUE(avisos.vistos.empty());
     const auto& l = c->Listas;
     EXPECT_EQ(l.Lugares.size(), 178u);
     EXPECT_EQ(l.Lugares[95], "M\xE1laga (oeste) (ESP)");

@@ -9,10 +9,8 @@
 #include <string>
 #include <vector>
 
-#include <unistd.h>
-
+#include "../Ayudas.h"
 #include "../sky/CapasApagadas.h"
-#include "app/base/ErrorEjecucion.h"
 #include "astro/Coordenadas.h"
 #include "catalogue/CargaCatalogos.h"
 #include "sky/DibujaCielo.h"
@@ -23,25 +21,14 @@ namespace {
 using namespace vedrano;
 namespace fs = std::filesystem;
 
-struct Avisos : InterfazMensajes {
-    std::vector<std::string> textos;
-    int16_t Mensaje(const std::string& texto, const std::string&, int16_t, int16_t) override {
-        textos.push_back(texto);
-        return 1;
-    }
-};
-
 class DatosDanados : public ::testing::Test {
 protected:
-    fs::path dir = fs::temp_directory_path() /
-                   ("vedrano_danados_" + std::to_string(::getpid()) + "_" +
-                    ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    pruebas::CarpetaPrueba carpeta{"vedrano_danados"};
+    const fs::path& dir = carpeta.ruta;
     void SetUp() override {
-        fs::create_directories(dir);
         for (const auto& f : fs::directory_iterator(VEDRANO_DATOS))
             if (f.path().extension() == ".DAT") fs::copy_file(f.path(), dir / f.path().filename());
     }
-    void TearDown() override { fs::remove_all(dir); }
     void Escribe(const std::string& nombre, const std::string& bytes) {
         fs::remove_all(dir / nombre);
         std::ofstream(dir / nombre, std::ios::binary) << bytes;
@@ -51,7 +38,7 @@ protected:
         return *c;
     }
     std::unique_ptr<Catalogos> c = std::make_unique<Catalogos>();
-    Avisos avisos;
+    pruebas::Anota avisos;
 };
 
 // A view with every layer that walks a count table on, at the deepest level.
@@ -78,7 +65,7 @@ TEST_F(DatosDanados, CuentasFueraDeLasTablasSeAvisanYSeAjustan) {
     }
     Escribe("VDRDATA.DAT", cuentas);
     Carga();
-    EXPECT_EQ(avisos.textos, std::vector<std::string>(8, "ERROR CTA9\r\n" + (dir / "VDRDATA.DAT").string()));
+    EXPECT_EQ(avisos.Textos(), std::vector<std::string>(8, "ERROR CTA9\r\n" + (dir / "VDRDATA.DAT").string()));
     const Cuentas& k = c->TablasCuentas;
     const std::vector<std::pair<const TablaCuentas*, int>> tablas = {
         {&k.Estrellas, N_ESTRELLAS},       {&k.Rotulos, N_ESTRELLAS_NOMBRE},   {&k.Figuras, N_FIGURAS},
@@ -126,19 +113,14 @@ TEST_F(DatosDanados, CarpetaOVacioEnLugarDeUnFicheroSeAvisaYElRestoCarga) {
     Escribe("VDRDAT1.DAT", "");
     Carga();
     const std::string enPlanetas = "\r\n" + (dir / "VDRDATF.DAT").string();
-    EXPECT_EQ(avisos.textos, (std::vector<std::string>{"ERROR CTA53: No existe el fichero" + enPlanetas,
+    EXPECT_EQ(avisos.Textos(), (std::vector<std::string>{"ERROR CTA53: No existe el fichero" + enPlanetas,
                                                         "ERROR CTA52" + enPlanetas, "ERROR CTA52" + enPlanetas,
                                                         "ERROR CTA62: Faltan datos en el fichero\r\n" +
                                                             (dir / "VDRDAT1.DAT").string()}));
     EXPECT_EQ(c->Listas.Estrellas.size(), 1483u);
     EXPECT_EQ(c->TablaEstrellas[0].Magnitud, 0.0f);
     TablaPlanetas planetas{};
-    try {
-        LeeTablaPlanetas((dir / "VDRDATF.DAT").string(), planetas);
-        ADD_FAILURE() << "a folder read as a planets file";
-    } catch (const ErrorEjecucion& error) {
-        EXPECT_EQ(error.numero(), 53);
-    }
+    EXPECT_EQ(pruebas::ErrorDe([&] { LeeTablaPlanetas((dir / "VDRDATF.DAT").string(), planetas); }), 53);
     Estado e = TodoALaVista();
     Lienzo l(320, 240);
     EXPECT_NO_THROW(ActualizaCielo(e, *c, l));

@@ -10,28 +10,18 @@
 #include <string>
 #include <vector>
 
+#include "../Ayudas.h"
+
 namespace {
 
+// The batch's answers, one a line; the run ends with `codigo`.
 std::vector<std::string> Ejecuta(const std::string& lote, const std::string& datos, int codigo = 0) {
     auto entrada = std::filesystem::temp_directory_path() / ("vedrano_lote_" + std::to_string(::getpid()));
     std::ofstream(entrada) << lote;
-    std::string orden = std::string(VEDRANO_CLI) + " calcula --datos '" + datos + "' < '" + entrada.string() + "'";
-    std::vector<std::string> lineas;
-    FILE* p = popen(orden.c_str(), "r");
-    if (!p) return lineas;
-    char buf[4096];
-    std::string actual;
-    while (std::fgets(buf, sizeof buf, p)) {
-        actual += buf;
-        if (!actual.empty() && actual.back() == '\n') {
-            actual.pop_back();
-            lineas.push_back(actual);
-            actual.clear();
-        }
-    }
-    EXPECT_EQ(pclose(p), codigo << 8);
+    pruebas::Ejecucion e = pruebas::EjecutaCli("calcula --datos '" + datos + "'", entrada.string());
     std::filesystem::remove(entrada);
-    return lineas;
+    EXPECT_EQ(e.codigo, codigo);
+    return e.Lineas();
 }
 
 std::vector<double> Numeros(const std::string& linea) {

@@ -2,46 +2,25 @@
 // out in UTF-8, loader messages on standard error.
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include <sys/wait.h>
-#include <unistd.h>
+#include "../Ayudas.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
 struct Salida {
-    int codigo = -1;
+    int codigo;
     std::vector<std::string> lineas;
     std::string errores;
 };
 
 Salida Lista(const std::string& argumentos) {
-    fs::path err = fs::temp_directory_path() / ("vedrano_lista_" + std::to_string(::getpid()));
-    std::string orden = std::string(VEDRANO_CLI) + " lista " + argumentos + " 2> '" + err.string() + "'";
-    Salida s;
-    FILE* p = popen(orden.c_str(), "r");
-    if (!p) return s;
-    char buf[4096];
-    while (std::fgets(buf, sizeof buf, p)) {
-        std::string l = buf;
-        if (!l.empty() && l.back() == '\n') l.pop_back();
-        s.lineas.push_back(l);
-    }
-    int estado = pclose(p);
-    s.codigo = WIFEXITED(estado) ? WEXITSTATUS(estado) : -1;
-    std::ifstream e(err);
-    std::stringstream t;
-    t << e.rdbuf();
-    s.errores = t.str();
-    fs::remove(err);
-    return s;
+    pruebas::Ejecucion e = pruebas::EjecutaCli("lista " + argumentos);
+    return {e.codigo, e.Lineas(), e.errores};
 }
 
 TEST(ListaCli, CategoriasSinDistinguirMayusculasNiAcentos) {

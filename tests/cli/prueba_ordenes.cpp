@@ -4,15 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <QStringList>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
+#include "../Ayudas.h"
 #include "cli/Argumentos.h"
 
 namespace {
@@ -28,35 +24,8 @@ QStringList Linea(std::initializer_list<const char*> args) {
     return l;
 }
 
-struct Ejecucion {
-    int codigo = -1;
-    std::string salida, errores;
-};
-
-std::string Lee(const fs::path& p) {
-    std::ifstream f(p);
-    std::stringstream t;
-    t << f.rdbuf();
-    return t.str();
-}
-
-// Runs vedrano-cli through the shell; `destino` is where standard output
-// goes (a file of ours when empty).
-Ejecucion Ejecuta(const std::string& argumentos, const std::string& destino = "",
-                  const std::string& entrada = "/dev/null") {
-    fs::path base = fs::temp_directory_path() / ("vedrano_ordenes_" + std::to_string(::getpid()));
-    fs::path out = base.string() + ".out", err = base.string() + ".err";
-    std::string orden = std::string(VEDRANO_CLI) + " " + argumentos + " < '" + entrada + "' > '" +
-                        (destino.empty() ? out.string() : destino) + "' 2> '" + err.string() + "'";
-    Ejecucion e;
-    int estado = std::system(orden.c_str());
-    e.codigo = WIFEXITED(estado) ? WEXITSTATUS(estado) : -1;
-    e.salida = Lee(out);
-    e.errores = Lee(err);
-    fs::remove(out);
-    fs::remove(err);
-    return e;
-}
+using pruebas::Ejecucion;
+using pruebas::EjecutaCli;
 
 TEST(Ordenes, AyudaYVersionSalenBienPorLaSalidaEstandar) {
     auto a = AnalizaArgumentos(Linea({"--help"}));
@@ -75,7 +44,7 @@ TEST(Ordenes, AyudaYVersionSalenBienPorLaSalidaEstandar) {
     EXPECT_EQ(a.codigo, 0);
     EXPECT_EQ(a.salida, "vedrano-cli 3.2\n");
     // The real executable: help really reaches standard output.
-    Ejecucion e = Ejecuta("dibuja --help");
+    Ejecucion e = EjecutaCli("dibuja --help");
     EXPECT_EQ(e.codigo, 0);
     EXPECT_NE(e.salida.find("--salida FICHERO"), std::string::npos);
     EXPECT_EQ(e.errores, "");
@@ -144,29 +113,29 @@ TEST(Ordenes, LaVentanaAbreElArchivoNombrado) {
 TEST(Ordenes, FaltasDeDatosYDeDiscoSalenMal) {
     const std::string datos = std::string("--datos '") + VEDRANO_DATOS + "'";
     // A data folder that does not exist: named, nothing written.
-    Ejecucion e = Ejecuta("lista Estrellas --datos /no/existe");
+    Ejecucion e = EjecutaCli("lista Estrellas --datos /no/existe");
     EXPECT_EQ(e.codigo, 1);
     EXPECT_EQ(e.salida, "");
     EXPECT_NE(e.errores.find("/no/existe"), std::string::npos);
-    EXPECT_EQ(Ejecuta("calcula --datos /no/existe").codigo, 1);
+    EXPECT_EQ(EjecutaCli("calcula --datos /no/existe").codigo, 1);
     // A full disk, for each order that writes to standard output or a file.
-    e = Ejecuta("lista Estrellas " + datos, "/dev/full");
+    e = EjecutaCli("lista Estrellas " + datos, "/dev/null", "/dev/full");
     EXPECT_EQ(e.codigo, 1);
     EXPECT_NE(e.errores.find("no se puede escribir"), std::string::npos);
     fs::path lote = fs::temp_directory_path() / ("vedrano_ordenes_lote_" + std::to_string(::getpid()));
     std::ofstream(lote) << "TextoHoras 4.9\n";
-    EXPECT_EQ(Ejecuta("calcula " + datos, "/dev/full", lote.string()).codigo, 1);
+    EXPECT_EQ(EjecutaCli("calcula " + datos, lote.string(), "/dev/full").codigo, 1);
     fs::remove(lote);
     const std::string eclipse = std::string("'") + VEDRANO_RAIZ + "/Archivo/Eclipse 2005.ls1'";
-    EXPECT_EQ(Ejecuta("configuracion --lee " + eclipse, "/dev/full").codigo, 1);
-    e = Ejecuta("dibuja --ancho 64 --alto 64 --salida /dev/full " + datos);
+    EXPECT_EQ(EjecutaCli("configuracion --lee " + eclipse, "/dev/null", "/dev/full").codigo, 1);
+    e = EjecutaCli("dibuja --ancho 64 --alto 64 --salida /dev/full " + datos);
     EXPECT_EQ(e.codigo, 1);
     EXPECT_NE(e.errores.find("/dev/full"), std::string::npos);
     // A configuration that cannot be read, named.
-    e = Ejecuta("configuracion --lee /no/existe.ls1");
+    e = EjecutaCli("configuracion --lee /no/existe.ls1");
     EXPECT_EQ(e.codigo, 1);
     EXPECT_NE(e.errores.find("/no/existe.ls1"), std::string::npos);
-    e = Ejecuta("dibuja --config /no/existe.ls1 --salida /tmp/x.png " + datos);
+    e = EjecutaCli("dibuja --config /no/existe.ls1 --salida /tmp/x.png " + datos);
     EXPECT_EQ(e.codigo, 1);
     EXPECT_NE(e.errores.find("/no/existe.ls1"), std::string::npos);
 }

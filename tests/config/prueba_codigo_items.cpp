@@ -3,11 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <functional>
 #include <limits>
 #include <random>
 
-#include "app/base/ErrorEjecucion.h"
+#include "../Ayudas.h"
 #include "config/CodigoItems.h"
 
 using namespace vedrano;
@@ -16,14 +15,7 @@ namespace {
 
 ItemLeido Item(const std::string& texto, bool comillas = false) { return {texto, comillas}; }
 
-int ErrorDe(const std::function<void()>& f) {
-    try {
-        f();
-    } catch (const ErrorEjecucion& e) {
-        return e.numero();
-    }
-    return 0;
-}
+using pruebas::ErrorDe;
 
 }  // namespace
 

@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
-#include <sstream>
 
+#include "../Ayudas.h"
 #include "app/base/Texto1252.h"
 #include "app/estado/Tiempo.h"
 #include "app/estado/Vista.h"
@@ -20,28 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct MensajeVisto {
-    std::string texto, titulo;
-    int16_t botones, icono;
-};
-
-// Records every message and answers with the answers it was given.
-class InterfazPrueba : public InterfazMensajes {
-public:
-    int16_t respuesta = -1;
-    std::vector<MensajeVisto> vistos;
-    int16_t Mensaje(const std::string& texto, const std::string& titulo, int16_t botones, int16_t icono) override {
-        vistos.push_back({texto, titulo, botones, icono});
-        return respuesta;
-    }
-};
-
-std::string Lee(const fs::path& p) {
-    std::ifstream f(p, std::ios::binary);
-    std::ostringstream s;
-    s << f.rdbuf();
-    return s.str();
-}
+using pruebas::LeeArchivo;
 
 void Escribe(const fs::path& p, const std::string& texto) { std::ofstream(p, std::ios::binary) << texto; }
 
@@ -55,26 +34,12 @@ std::vector<std::string> Items(const Estado& e) {
 
 class Configuracion : public ::testing::Test {
 protected:
-    void SetUp() override {
-        carpeta = fs::temp_directory_path() /
-                  ("vedrano_config_" + std::to_string(::getpid()) + "_" +
-                   ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(carpeta);
-        fs::create_directories(carpeta);
-        e.DirArchivo = carpeta.string() + "/";
-    }
-    void TearDown() override { fs::remove_all(carpeta); }
-
-    std::vector<std::string> Archivos() {
-        std::vector<std::string> v;
-        for (const auto& f : fs::directory_iterator(carpeta)) v.push_back(f.path().filename().string());
-        std::sort(v.begin(), v.end());
-        return v;
-    }
-
-    fs::path carpeta;
+    void SetUp() override { e.DirArchivo = carpeta.string() + "/"; }
+    std::vector<std::string> Archivos() { return dir.Nombres(); }
+    pruebas::CarpetaPrueba dir{"vedrano_config"};
+    const fs::path& carpeta = dir.ruta;
     Estado e;
-    InterfazPrueba ui;
+    pruebas::Anota ui;
 };
 
 // A state that differs from a fresh one in every item.
@@ -129,8 +94,8 @@ TEST_F(Configuracion, EscribirLeerEscribirDaLosMismosBytes) {
     EXPECT_EQ(e.TextoLugar, poblado.TextoLugar);
     EXPECT_EQ(e.FechaJuliana, poblado.FechaJuliana);
     ASSERT_TRUE(EscribeConfiguracion(e, "Dos", ui, false).escrito);
-    std::string uno = Lee(carpeta / "Uno.ls1");
-    EXPECT_EQ(Lee(carpeta / "Dos.ls1"), uno);
+    std::string uno = LeeArchivo(carpeta / "Uno.ls1");
+    EXPECT_EQ(LeeArchivo(carpeta / "Dos.ls1"), uno);
     EXPECT_TRUE(ui.vistos.empty());
     // Four lines, each ended by CR LF, and no temporary file left behind.
     EXPECT_EQ(std::count(uno.begin(), uno.end(), '\n'), 4);
@@ -151,7 +116,7 @@ TEST_F(Configuracion, LasMuestrasCarganSinMensajeYSeReescribenIguales) {
         EXPECT_EQ(r.error, 0) << nombre << ": " << DesdeA1252(r.texto);
         m.DirArchivo = e.DirArchivo;
         EscribeConfiguracion(m, nombre, ui, false);
-        EXPECT_EQ(Lee(carpeta / nombre), Lee(fs::path(archivo) / nombre)) << nombre;
+        EXPECT_EQ(LeeArchivo(carpeta / nombre), LeeArchivo(fs::path(archivo) / nombre)) << nombre;
     }
     EXPECT_TRUE(ui.vistos.empty());
     // The start-up sky: stars to magnitude 5.5, figures and names, horizon and planets.
@@ -223,7 +188,7 @@ TEST_F(Configuracion, ReglasDelNombreYPreguntaAntesDeSustituir) {
     ui.vistos.clear();
 
     // Declining leaves the old file, with no error.
-    std::string antes = Lee(carpeta / "a.ls1");
+    std::string antes = LeeArchivo(carpeta / "a.ls1");
     FijaZoom(e, 7);
     ui.respuesta = 0;
     ResultadoConfiguracion r = EscribeConfiguracion(e, "a", ui, false);
@@ -232,11 +197,11 @@ TEST_F(Configuracion, ReglasDelNombreYPreguntaAntesDeSustituir) {
     ASSERT_EQ(ui.vistos.size(), 1u);
     EXPECT_EQ(ui.vistos[0].botones, 2);
     EXPECT_EQ(ui.vistos[0].texto.rfind(A1252("Ya existe un archivo con ese  nombre.  ¿Desea"), 0), 0u);
-    EXPECT_EQ(Lee(carpeta / "a.ls1"), antes);
+    EXPECT_EQ(LeeArchivo(carpeta / "a.ls1"), antes);
     // Accepting replaces it; the work file is replaced without asking.
     ui.respuesta = -1;
     EXPECT_TRUE(EscribeConfiguracion(e, "a", ui, false).escrito);
-    EXPECT_NE(Lee(carpeta / "a.ls1"), antes);
+    EXPECT_NE(LeeArchivo(carpeta / "a.ls1"), antes);
     ui.vistos.clear();
     EXPECT_TRUE(EscribeConfiguracion(e, "Temporal.wrk", ui, true).escrito);
     EXPECT_TRUE(EscribeConfiguracion(e, "Temporal.wrk", ui, true).escrito);

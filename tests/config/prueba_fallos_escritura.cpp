@@ -10,13 +10,13 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
-#include <sstream>
 #include <thread>
 
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "../Ayudas.h"
 #include "app/estado/Tiempo.h"
 #include "app/estado/Vista.h"
 #include "config/EscribeConfiguracion.h"
@@ -29,38 +29,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Lee(const fs::path& p) {
-    std::ifstream f(p, std::ios::binary);
-    std::ostringstream s;
-    s << f.rdbuf();
-    return s.str();
-}
-
-class Calla : public InterfazMensajes {
-public:
-    std::string ultimo;
-    int16_t Mensaje(const std::string& texto, const std::string&, int16_t, int16_t) override {
-        ultimo = texto;
-        return 1;
-    }
-};
+using pruebas::LeeArchivo;
 
 class FallosEscritura : public ::testing::Test {
 protected:
-    fs::path dir = fs::temp_directory_path() /
-                   ("vedrano_fallos_" + std::to_string(::getpid()) + "_" +
-                    ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    void SetUp() override {
-        fs::remove_all(dir);
-        fs::create_directories(dir);
-    }
-    void TearDown() override { fs::remove_all(dir); }
-    std::vector<std::string> Nombres() const {
-        std::vector<std::string> v;
-        for (const auto& f : fs::directory_iterator(dir)) v.push_back(f.path().filename().string());
-        std::sort(v.begin(), v.end());
-        return v;
-    }
+    pruebas::CarpetaPrueba carpeta{"vedrano_fallos"};
+    const fs::path& dir = carpeta.ruta;
+    std::vector<std::string> Nombres() const { return carpeta.Nombres(); }
     // Runs `hijo` in a child process whose files may not grow past
     // `limite` bytes, as on a disk with that much room; its exit status.
     static int EnDiscoLleno(long limite, const std::function<int()>& hijo) {
@@ -97,7 +72,7 @@ TEST_F(FallosEscritura, UnEscritorMatadoDejaElViejoOElNuevoEntero) {
         std::this_thread::sleep_for(std::chrono::microseconds(azar() % 3000));
         ::kill(pid, SIGKILL);
         ::waitpid(pid, nullptr, 0);
-        const std::string visto = Lee(ruta);
+        const std::string visto = LeeArchivo(ruta);
         ASSERT_TRUE(visto == textoA || visto == textoB) << "vez " << vez << ": " << visto.size() << " bytes";
         intermedios += Nombres().size() > 1;
     }
@@ -119,12 +94,12 @@ TEST_F(FallosEscritura, DiscoLlenoAvisaYConservaElViejo) {
     e.DirArchivo = dir.string() + "/";
     std::ofstream(dir / "v.ls1") << "viejo";
     int error = EnDiscoLleno(100, [&] {
-        Calla ui;
+        pruebas::Anota ui;
         ResultadoConfiguracion r = EscribeConfiguracion(e, "v.ls1", ui, true);
-        return r.escrito || ui.ultimo.find("61") == std::string::npos ? 0 : r.error;
+        return r.escrito || ui.vistos.empty() || ui.vistos.back().texto.find("61") == std::string::npos ? 0 : r.error;
     });
     EXPECT_EQ(error, 61);
-    EXPECT_EQ(Lee(dir / "v.ls1"), "viejo");
+    EXPECT_EQ(LeeArchivo(dir / "v.ls1"), "viejo");
     EXPECT_EQ(Nombres(), std::vector<std::string>{"v.ls1"});
 }
 
@@ -141,7 +116,7 @@ TEST_F(FallosEscritura, PdfEnDiscoLlenoNoDejaFicheroVacio) {
         });
         EXPECT_EQ(error, 61) << nombre;
     }
-    EXPECT_EQ(Lee(dir / "c.pdf"), "viejo");
+    EXPECT_EQ(LeeArchivo(dir / "c.pdf"), "viejo");
     EXPECT_EQ(Nombres(), std::vector<std::string>{"c.pdf"});
 }
 
@@ -159,10 +134,10 @@ TEST_F(FallosEscritura, DibujaBuscaLaConfiguracionEnLaCarpetaActual) {
                                   "' --config " + config + " --ancho 64 --alto 48 --salida o.png 2> err.txt";
         return WEXITSTATUS(std::system(orden.c_str()));
     };
-    EXPECT_EQ(dibuja("bien.ls1"), 0) << Lee(dir / "err.txt");
+    EXPECT_EQ(dibuja("bien.ls1"), 0) << LeeArchivo(dir / "err.txt");
     EXPECT_TRUE(fs::file_size(dir / "o.png") > 0);
     EXPECT_EQ(dibuja("mal.ls1"), 1);
-    EXPECT_NE(Lee(dir / "err.txt").find("dato 5 (Direccion)"), std::string::npos) << Lee(dir / "err.txt");
+    EXPECT_NE(LeeArchivo(dir / "err.txt").find("dato 5 (Direccion)"), std::string::npos) << LeeArchivo(dir / "err.txt");
 }
 
 }  // namespace

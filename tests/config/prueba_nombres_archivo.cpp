@@ -4,8 +4,8 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
+#include "../Ayudas.h"
 #include "app/estado/Vista.h"
 #include "config/EscribeConfiguracion.h"
 #include "config/EscrituraSegura.h"
@@ -16,37 +16,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class Calla : public InterfazMensajes {
-public:
-    int avisos = 0;
-    int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override {
-        ++avisos;
-        return -1;
-    }
-};
-
-std::string Lee(const fs::path& p) {
-    std::ifstream f(p, std::ios::binary);
-    std::ostringstream s;
-    s << f.rdbuf();
-    return s.str();
-}
-
 class NombresArchivo : public ::testing::Test {
 protected:
-    void SetUp() override {
-        carpeta = fs::temp_directory_path() / ("vedrano_nombres_" + std::to_string(::getpid()));
-        fs::remove_all(carpeta);
-        fs::create_directories(carpeta);
-    }
-    void TearDown() override { fs::remove_all(carpeta); }
-    fs::path carpeta;
+    pruebas::CarpetaPrueba dir{"vedrano_nombres"};
+    const fs::path& carpeta = dir.ruta;
 };
+
+}  // namespace
 
 TEST_F(NombresArchivo, NombresUnicodeSeGuardanYSeLeenTalCual) {
     Estado e;
     e.DirArchivo = carpeta.string() + "/";
-    Calla ui;
+    pruebas::Anota ui;
     FijaZoom(e, 3.5f);
     for (const char* nombre : {"Ωmega-copia", "東京.ls1", "Ñandú"}) {
         SCOPED_TRACE(nombre);
@@ -61,7 +42,7 @@ TEST_F(NombresArchivo, NombresUnicodeSeGuardanYSeLeenTalCual) {
     }
     EXPECT_TRUE(fs::exists(carpeta / fs::u8path("Ωmega-copia.ls1")));
     EXPECT_TRUE(fs::exists(carpeta / fs::u8path("Ñandú.ls1")));
-    EXPECT_EQ(ui.avisos, 0);
+    EXPECT_TRUE(ui.vistos.empty());
 }
 
 TEST_F(NombresArchivo, ReemplazarConservaPermisosYEnlaces) {
@@ -69,7 +50,7 @@ TEST_F(NombresArchivo, ReemplazarConservaPermisosYEnlaces) {
     std::ofstream(privado) << "viejo";
     fs::permissions(privado, fs::perms::owner_read | fs::perms::owner_write);
     ASSERT_EQ(EscribeArchivoEntero(privado.string(), "nuevo"), 0);
-    EXPECT_EQ(Lee(privado), "nuevo");
+    EXPECT_EQ(pruebas::LeeArchivo(privado), "nuevo");
     EXPECT_EQ(fs::status(privado).permissions() & fs::perms::all, fs::perms::owner_read | fs::perms::owner_write);
 
     // Through a relative link in another folder: the link stays a link and
@@ -79,7 +60,7 @@ TEST_F(NombresArchivo, ReemplazarConservaPermisosYEnlaces) {
     fs::create_symlink("../privado.ls1", enlace);
     ASSERT_EQ(EscribeArchivoEntero(enlace.string(), "por el enlace"), 0);
     EXPECT_TRUE(fs::is_symlink(enlace));
-    EXPECT_EQ(Lee(privado), "por el enlace");
+    EXPECT_EQ(pruebas::LeeArchivo(privado), "por el enlace");
     EXPECT_EQ(fs::status(privado).permissions() & fs::perms::all, fs::perms::owner_read | fs::perms::owner_write);
 
     // A device is written into, never replaced; a full one is an error.
@@ -88,5 +69,3 @@ TEST_F(NombresArchivo, ReemplazarConservaPermisosYEnlaces) {
     for (const auto& f : fs::directory_iterator(carpeta))
         EXPECT_EQ(f.path().extension(), f.is_directory() ? "" : ".ls1") << f.path();
 }
-
-}  // namespace

@@ -1,11 +1,9 @@
 // "vedrano-cli configuracion" run as users run it.
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <sys/wait.h>
+
+#include "../Ayudas.h"
 
 namespace fs = std::filesystem;
 
@@ -16,23 +14,10 @@ struct Salida {
     std::string texto;
 };
 
+// Standard output and error together, as the user sees them.
 Salida Ejecuta(const std::string& argumentos) {
-    std::string orden = std::string(VEDRANO_CLI) + " configuracion " + argumentos + " 2>&1";
-    FILE* p = popen(orden.c_str(), "r");
-    Salida s{-1, ""};
-    if (!p) return s;
-    char buf[4096];
-    while (std::fgets(buf, sizeof buf, p)) s.texto += buf;
-    int w = pclose(p);
-    s.estado = WIFEXITED(w) ? WEXITSTATUS(w) : -1;
-    return s;
-}
-
-std::string Lee(const fs::path& p) {
-    std::ifstream f(p, std::ios::binary);
-    std::ostringstream s;
-    s << f.rdbuf();
-    return s.str();
+    pruebas::Ejecucion e = pruebas::EjecutaCli("configuracion " + argumentos);
+    return {e.codigo, e.salida + e.errores};
 }
 
 }  // namespace
@@ -45,7 +30,7 @@ TEST(OrdenConfiguracion, ListaReescribeYFallaSinArchivo) {
     EXPECT_NE(s.texto.find("1.2 IndiceLugar = 88\n"), std::string::npos) << s.texto;
     EXPECT_NE(s.texto.find("2.1 TextoLugar = \"Los Ángeles (USA)\"\n"), std::string::npos) << s.texto;
     EXPECT_NE(s.texto.find("4.18 ImagenEnPantalla = #FALSE#\n"), std::string::npos) << s.texto;
-    EXPECT_EQ(Lee(copia), Lee(muestra));
+    EXPECT_EQ(pruebas::LeeArchivo(copia), pruebas::LeeArchivo(muestra));
     fs::remove(copia);
 
     s = Ejecuta("--lee /no/existe/Nada.ls1");

@@ -4,8 +4,8 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
+#include "../Ayudas.h"
 #include "config/Preferencias.h"
 
 using namespace vedrano;
@@ -24,12 +24,7 @@ void Escribe(const fs::path& ruta, const std::string& texto) {
     std::ofstream(ruta, std::ios::binary) << texto;
 }
 
-std::string Lee(const fs::path& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    std::stringstream s;
-    s << f.rdbuf();
-    return s.str();
-}
+using pruebas::LeeArchivo;
 
 }  // namespace
 
@@ -73,13 +68,13 @@ TEST(Preferencias, EscribirYLeerDevuelveLoEscritoYUnFalloLoDice) {
     p.PrecisionAlta = false;
     EXPECT_EQ(EscribePreferencias(p, ruta.string()), "");
     EXPECT_EQ(LeePreferencias(ruta.string()), p);
-    EXPECT_EQ(Lee(ruta), TextoPreferencias(p));
+    EXPECT_EQ(LeeArchivo(ruta), TextoPreferencias(p));
 
     // Where a file stands in the way of the folder, nothing is written, the
     // old file is kept and the user is told.
     Escribe(d / "tapon", "x");
     std::string error = EscribePreferencias(p, (d / "tapon" / "preferencias.ini").string());
     EXPECT_NE(error.find("No se han podido guardar las preferencias"), std::string::npos);
-    EXPECT_EQ(Lee(d / "tapon"), "x");
+    EXPECT_EQ(LeeArchivo(d / "tapon"), "x");
     EXPECT_EQ(EscribePreferencias(p, ""), "");  // not kept: nothing to say
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "../Ayudas.h"
 #include "app/base/Texto1252.h"
 #include "app/estado/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
@@ -13,20 +14,6 @@
 #include "sky/DibujaCielo.h"
 
 namespace pruebas {
-
-struct AvisosCarga : vedrano::InterfazMensajes {
-    int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 1; }
-};
-
-inline const vedrano::Catalogos& CatalogosDatos() {
-    static const vedrano::Catalogos c = [] {
-        vedrano::Catalogos cat;
-        AvisosCarga a;
-        vedrano::CargaCatalogos(VEDRANO_DATOS, cat, a);
-        return cat;
-    }();
-    return c;
-}
 
 struct MensajesAnotados : vedrano::InterfazMensajes {
     std::vector<std::string> textos;

@@ -5,7 +5,6 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QTimer>
 
 #include "app/estado/Tiempo.h"
 #include "app/estado/Vista.h"
@@ -115,22 +114,15 @@ TEST_F(FormaAnimar, TiempoRealArrancaElRelojYSaltaAlPresente) {
     FijaLugar(e, c.TablaPlanetas, {e.Longitud, e.Latitud, 1, e.HorarioVerano});
     bool terminado = false;
     // The form shown as the main window shows it, answered once it is up.
-    auto* t = new QTimer;
-    t->setInterval(5);
-    QObject::connect(t, &QTimer::timeout, [&, t] {
-        auto* a = qobject_cast<Animar*>(QApplication::activeModalWidget());
-        if (!a) return;
-        t->stop();
-        t->deleteLater();
+    pruebas::CuandoAparezca<Animar>([&](Animar& a) {
         // 1 January 2000, 12:00 UT: the zone adds and takes back its hour.
-        a->setReloj([] { return 2451544.5 - 2415018.5 + 12.0 / 24; });
-        Clic(a->tiempoReal(), QPoint(5, 5));
+        a.setReloj([] { return 2451544.5 - 2415018.5 + 12.0 / 24; });
+        Clic(a.tiempoReal(), QPoint(5, 5));
         EXPECT_TRUE(e.TiempoReal);
         EXPECT_EQ(ventana.ContadorTiempoReal, 0);
-        Sal(*a);
+        Sal(a);
         terminado = true;
     });
-    t->start();
     e.Cambiado = true;  // left over from before: the form starts it afresh
     AbreAnimar(ctx);
     ASSERT_TRUE(terminado);

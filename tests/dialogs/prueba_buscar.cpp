@@ -26,7 +26,7 @@ using namespace vedrano;
 
 namespace {
 
-void Pulsa(QWidget* w) { pruebas::Clic(w, QPoint(w->width() / 2, w->height() / 2)); }
+using pruebas::Pulsa;
 
 void ClicLinea(QListWidget* l, int fila, bool doble = false) {
     l->scrollToItem(l->item(fila));

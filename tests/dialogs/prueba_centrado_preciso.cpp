@@ -4,8 +4,8 @@
 
 #include <cmath>
 #include <filesystem>
-#include <memory>
 
+#include "../Ayudas.h"
 #include "astro/Calendario.h"
 #include "app/estado/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
@@ -18,21 +18,11 @@
 using namespace vedrano;
 namespace fs = std::filesystem;
 
-namespace {
-
-struct Calla : InterfazMensajes {
-    int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 1; }
-};
-
-}  // namespace
-
 // Centring from the search in the precise model puts the star where it is
 // drawn at the centre of the picture.
 TEST(MovimientosPropios, ElModoPrecisoCentraDondeDibuja) {
-    auto datos = std::make_unique<Catalogos>();
-    Calla m;
-    CargaCatalogos(VEDRANO_DATOS, *datos, m);
-    const Catalogos& c = *datos;
+    pruebas::Anota m;
+    const Catalogos& c = pruebas::CatalogosDatos();
     ASSERT_FALSE(c.MovEstrellasNombre.empty());
     Estado e;
     e.DirArchivo = (fs::temp_directory_path() / "vedrano_movimientos").string() + "/";

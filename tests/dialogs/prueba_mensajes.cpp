@@ -21,21 +21,8 @@ using namespace vedrano;
 
 namespace {
 
-// Runs `accion` on the message box once it is up and modal.
-void CuandoAparezca(std::function<void(Mensajes&)> accion) {
-    auto* t = new QTimer;
-    t->setInterval(5);
-    QObject::connect(t, &QTimer::timeout, [t, accion] {
-        if (auto* m = qobject_cast<Mensajes*>(QApplication::activeModalWidget())) {
-            t->stop();
-            t->deleteLater();
-            accion(*m);
-        }
-    });
-    t->start();
-}
-
-void Pulsa(QWidget* w) { pruebas::Clic(w, QPoint(w->width() / 2, w->height() / 2)); }
+void CuandoAparezca(std::function<void(Mensajes&)> accion) { pruebas::CuandoAparezca<Mensajes>(accion); }
+using pruebas::Pulsa;
 
 void Tecla(QWidget* w, int tecla) {
     QKeyEvent ev(QEvent::KeyPress, tecla, Qt::NoModifier);

@@ -4,11 +4,11 @@
 // tables at zoom 1, the whole file at zoom 15).
 #include <gtest/gtest.h>
 
-#include <QGuiApplication>
 #include <cmath>
 #include <fstream>
 #include <sstream>
 
+#include "../Ayudas.h"
 #include "CapasApagadas.h"
 #include "app/base/Constantes.h"
 #include "app/estado/Rotaciones.h"
@@ -23,21 +23,9 @@ using namespace vedrano;
 
 namespace {
 
-struct Mudo : InterfazMensajes {
-    int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 1; }
-};
-
+// The offscreen application is the one prueba_dibujo's environment makes.
 struct Capa : ::testing::Test {
     static void SetUpTestSuite() {
-        if (!QGuiApplication::instance()) {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-            static int argc = 1;
-            static char nombre[] = "pruebas";
-            static char* argv[] = {nombre, nullptr};
-            new QGuiApplication(argc, argv);
-        }
-        Mudo m;
-        CargaCatalogos(VEDRANO_DATOS, c, m);
         std::string mensaje;
         abierto = profundas.Abre(std::string(VEDRANO_DATOS) + "VDRDATP.DAT", mensaje);
     }
@@ -77,7 +65,7 @@ struct Capa : ::testing::Test {
         return p.Z < e.Umbral ? QPointF(-100, -100) : l.APixel(p.X, p.Y);
     }
 
-    static inline Catalogos c;
+    const Catalogos& c = pruebas::CatalogosDatos();
     static inline EstrellasProfundas profundas;
     static inline bool abierto = false;
     Estado e;

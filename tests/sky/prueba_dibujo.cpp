@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <cmath>
 
+#include "../Ayudas.h"
 #include "CapasApagadas.h"
 #include "app/estado/Astros.h"
 #include "app/estado/Rotaciones.h"
@@ -24,25 +25,7 @@ using namespace vedrano;
 
 namespace {
 
-class Silencio : public InterfazMensajes {
-public:
-    int16_t Mensaje(const std::string& t, const std::string&, int16_t, int16_t) override {
-        mensajes += t + "\n";
-        return 1;
-    }
-    std::string mensajes;
-};
-
-const Catalogos& Datos() {
-    static Catalogos c;
-    static bool cargado = [] {
-        Silencio s;
-        CargaCatalogos(VEDRANO_DATOS, c, s);
-        return s.mensajes.empty();
-    }();
-    EXPECT_TRUE(cargado);
-    return c;
-}
+const Catalogos& Datos() { return pruebas::CatalogosDatos(); }
 
 class EntornoQt : public ::testing::Environment {
 public:
@@ -171,10 +154,7 @@ TEST(Dibujo, DaylightFollowsTheSunsAltitude) {
 
 TEST(Dibujo, TheMoonCoversTheSunAtTheEclipse) {
     // The annular eclipse of 3 October 2005 at its maximum seen from Madrid.
-    class Calla : public InterfazMensajes {
-    public:
-        int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 1; }
-    } calla;
+    pruebas::Anota calla;
     Estado e;
     e.DirArchivo = std::string(VEDRANO_RAIZ) + "/Archivo/";
     ASSERT_EQ(LeeConfiguracion(e, "Eclipse 2005.ls1", calla).error, 0);

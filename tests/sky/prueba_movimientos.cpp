@@ -10,8 +10,8 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
-#include <memory>
 
+#include "../Ayudas.h"
 #include "CapasApagadas.h"
 #include "astro/Calendario.h"
 #include "astro/Precesion.h"
@@ -31,24 +31,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Avisos : InterfazMensajes {
-    std::vector<std::string> textos;
-    int16_t Mensaje(const std::string& t, const std::string&, int16_t, int16_t) override {
-        textos.push_back(t);
-        return 1;
-    }
-};
-
-const Catalogos& Datos() {
-    static std::unique_ptr<Catalogos> c = [] {
-        auto p = std::make_unique<Catalogos>();
-        Avisos a;
-        CargaCatalogos(VEDRANO_DATOS, *p, a);
-        EXPECT_TRUE(a.textos.empty());
-        return p;
-    }();
-    return *c;
-}
+using Avisos = pruebas::Anota;
+const Catalogos& Datos() { return pruebas::CatalogosDatos(); }
 
 // Arcturus's index in the table of all stars (the third brightest).
 std::size_t Arturo(const Catalogos& c) {
@@ -243,20 +227,19 @@ TEST(MovimientosPropios, SinFicheroODanadoLasEstrellasSeQuedanEnJ2000) {
     Catalogos c = Datos();
     Avisos a;
     CargaMovimientos(dir.string() + "/", c, a);
-    EXPECT_TRUE(a.textos.empty());
+    EXPECT_TRUE(a.vistos.empty());
     EXPECT_TRUE(c.MovEstrellas.empty() && c.MovEstrellasNombre.empty() && c.MovFiguras.empty());
 
-    std::ifstream f(std::string(VEDRANO_DATOS) + "VDRDATN.DAT", std::ios::binary);
-    std::string bueno(std::istreambuf_iterator<char>(f), {});
+    const std::string bueno = pruebas::LeeArchivo(std::string(VEDRANO_DATOS) + "VDRDATN.DAT");
     std::string enorme = bueno;
     enorme[20 + 8 * 100 + 3] = 0x7f;  // a motion of 3e38 mas/yr
     for (const std::string& malo : {bueno.substr(0, bueno.size() - 8), enorme, std::string(bueno.size(), 'x')}) {
         std::ofstream(dir / "VDRDATN.DAT", std::ios::binary) << malo;
         c = Datos();
-        a.textos.clear();
+        a.vistos.clear();
         CargaMovimientos(dir.string() + "/", c, a);
-        ASSERT_EQ(a.textos.size(), 1u);
-        EXPECT_NE(a.textos[0].find("movimientos propios"), std::string::npos);
+        ASSERT_EQ(a.vistos.size(), 1u);
+        EXPECT_NE(a.vistos[0].texto.find("movimientos propios"), std::string::npos);
         EXPECT_TRUE(c.MovEstrellas.empty() && c.MovEstrellasNombre.empty() && c.MovFiguras.empty());
     }
     fs::remove_all(dir);

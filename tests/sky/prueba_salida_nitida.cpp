@@ -11,6 +11,7 @@
 
 #include <unistd.h>
 
+#include "../Ayudas.h"
 #include "catalogue/CargaCatalogos.h"
 #include "config/LeeConfiguracion.h"
 #include "sky/DibujaCielo.h"
@@ -19,11 +20,6 @@ using namespace vedrano;
 namespace fs = std::filesystem;
 
 namespace {
-
-class Calla : public InterfazMensajes {
-public:
-    int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return -1; }
-};
 
 // Sum of squared steps of grey between neighbouring pixels: an edge spread
 // over two pixels counts half of the same edge in one.
@@ -52,9 +48,8 @@ std::string Orden(const std::string& orden) {
 }
 
 TEST(SalidaNitida, ADosPixelesPorPuntoMasNitidoQueAmpliado) {
-    Calla calla;
-    Catalogos c;
-    CargaCatalogos(VEDRANO_DATOS, c, calla);
+    pruebas::Anota calla;
+    const Catalogos& c = pruebas::CatalogosDatos();
     Estado e;
     e.DirArchivo = std::string(VEDRANO_RAIZ) + "/Archivo/";
     ASSERT_EQ(LeeConfiguracion(e, "Constelaciones.ls1", calla).error, 0);
@@ -94,10 +89,7 @@ TEST(SalidaNitida, PdfYSvgSonVectoriales) {
         if (!l.empty() && l.find(':') == std::string::npos && l.find('=') == std::string::npos) ++rotulos;
     EXPECT_GT(rotulos, 30);
 
-    std::ifstream f(svg);
-    std::stringstream s;
-    s << f.rdbuf();
-    const std::string dibujo = s.str();
+    const std::string dibujo = pruebas::LeeArchivo(svg);
     EXPECT_EQ(dibujo.find("<image"), std::string::npos);
     std::size_t textos = 0;
     for (std::size_t p = dibujo.find("<text"); p != std::string::npos; p = dibujo.find("<text", p + 1)) ++textos;

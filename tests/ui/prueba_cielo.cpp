@@ -9,7 +9,7 @@
 #include "app/estado/Tiempo.h"
 #include "app/estado/Vista.h"
 #include "EntornoQt.h"
-#include "CatalogosPrueba.h"
+#include "../Ayudas.h"
 #include "Falsos.h"
 #include "app/base/Constantes.h"
 #include "app/base/Cursores.h"
@@ -26,7 +26,7 @@ using namespace vedrano;
 
 namespace {
 
-const Catalogos& Datos() { return pruebas::CatalogosDePrueba(); }
+const Catalogos& Datos() { return pruebas::CatalogosDatos(); }
 
 // Answers the next message box when it shows: Esc cancels a two-button
 // message, Enter accepts; the text is kept for the test.

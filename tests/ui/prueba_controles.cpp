@@ -10,6 +10,7 @@
 #include "app/base/TablasControles.h"
 #include "EntornoQt.h"
 #include "Falsos.h"
+#include "../Ayudas.h"
 #include "app/base/ErrorEjecucion.h"
 #include "platform/Pausa.h"
 #include "platform/Sonido.h"
@@ -206,12 +207,7 @@ TEST_F(Controles, SinDispositivoDeSonidoNoFallaNiEspera) {
 }
 
 TEST_F(Controles, IndiceFueraDeLasTablas) {
-    try {
-        Spin s(k, NUM_FORMATOS, nullptr);
-        FAIL() << "a spin past the value table was made";
-    } catch (const ErrorEjecucion& err) {
-        EXPECT_EQ(err.numero(), 9);
-    }
+    EXPECT_EQ(pruebas::ErrorDe([&] { Spin s(k, NUM_FORMATOS, nullptr); }), 9);
 }
 
 }  // namespace

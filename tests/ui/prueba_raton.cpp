@@ -9,7 +9,7 @@
 #include "app/estado/Tiempo.h"
 #include "app/estado/Vista.h"
 #include "EntornoQt.h"
-#include "CatalogosPrueba.h"
+#include "../Ayudas.h"
 #include "Falsos.h"
 #include "app/base/Constantes.h"
 #include "catalogue/CargaCatalogos.h"
@@ -22,7 +22,7 @@ using namespace vedrano;
 
 namespace {
 
-const Catalogos& Datos() { return pruebas::CatalogosDePrueba(); }
+const Catalogos& Datos() { return pruebas::CatalogosDatos(); }
 
 struct Ventana {
     pruebas::Falsos falsos;

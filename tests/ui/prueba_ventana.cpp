@@ -16,7 +16,7 @@
 #include "app/estado/Tiempo.h"
 #include "app/estado/Vista.h"
 #include "EntornoQt.h"
-#include "CatalogosPrueba.h"
+#include "../Ayudas.h"
 #include "Falsos.h"
 #include "catalogue/CargaCatalogos.h"
 #include "config/EscribeConfiguracion.h"
@@ -41,7 +41,7 @@ using namespace vedrano;
 
 namespace {
 
-const Catalogos& Datos() { return pruebas::CatalogosDePrueba(); }
+const Catalogos& Datos() { return pruebas::CatalogosDatos(); }
 
 using pruebas::CuandoAparezca;
 using pruebas::Pulsa;
