@@ -11,6 +11,8 @@
 #include <type_traits>
 #include <vector>
 
+#include "../Ayudas.h"
+#include "Referencias.h"
 #include "app/estado/Astros.h"
 #include "app/estado/Estado.h"
 #include "app/estado/Rotaciones.h"
@@ -28,31 +30,13 @@ namespace {
 constexpr double J2000 = 2451545.0;
 constexpr double AC_1000 = 1355807.5;  // 1 January 1000 BC
 constexpr double DC_1000 = 2086302.5;  // 1 January 1000 AD
-constexpr double DC_1900 = 2415020.5;
-constexpr double DC_2100 = 2488069.5;
 constexpr double DC_3000 = 2816787.5;
 
-TablaPlanetas Tabla() {
-    TablaPlanetas t;
-    LeeTablaPlanetas(std::string(VEDRANO_DATOS) + "VDRDATF.DAT", t);
-    return t;
-}
+using namespace pruebas;
+
+const TablaPlanetas& Tabla() { return CatalogosDatos().TablaPlanetas; }
 
 double Siglos(double jd) { return (jd - J2000) / 36525.0; }
-
-// Dates spread evenly over [lo, hi], each at a different time of day.
-std::vector<double> Fechas(double lo, double hi, int n) {
-    std::vector<double> f;
-    for (int k = 0; k < n; ++k) f.push_back(lo + (hi - lo - 1) * (k + 0.5) / n + std::fmod(k * 0.618034, 1.0));
-    return f;
-}
-
-// The program's instant is Universal Time; the ephemerides run on TT.
-// Delta T from the long-term parabola of Morrison and Stephenson (2004).
-double DeltaT(double jd) {
-    double u = (2000.0 + Siglos(jd) * 100.0 - 1820.0) / 100.0;
-    return (-20.0 + 32.0 * u * u) / 86400.0;
-}
 
 // Geometric geocentric direction (ICRS-aligned, any length) to right
 // ascension and declination of the mean equator and equinox of date.
@@ -71,7 +55,7 @@ void TierraHelio(double tt, double p[3]) {
 
 // Reference place of record `indice` (1..8 planets, 10 Sun, 11 Moon).
 void Referencia(int indice, double jd, double& ar, double& dec) {
-    double tt = jd + DeltaT(jd), tierra[3], p[3], pv[2][3];
+    double tt = TTDe(jd), tierra[3], p[3], pv[2][3];
     if (indice == 11) {
         eraMoon98(tt, 0, pv);
         for (int i = 0; i < 3; ++i) p[i] = pv[0][i];
@@ -96,15 +80,6 @@ void Programa(const TablaPlanetas& t, int indice, double jd, double& ar, double&
                                       : HallaPlaneta(jd, t[static_cast<std::size_t>(indice)], sol.sol);
     ar = p.AscRecta;
     dec = p.Declinacion;
-}
-
-struct Errores {
-    double mediana, maximo;
-};
-
-Errores Resumen(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return {v[v.size() / 2], v.back()};
 }
 
 // Angular distance in degrees between the program and ERFA for one body.

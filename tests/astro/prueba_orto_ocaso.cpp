@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <string>
 
+#include "../Ayudas.h"
 #include "app/base/Constantes.h"
 #include "app/estado/Tiempo.h"
 #include "catalogue/TablaPlanetas.h"
@@ -19,16 +20,12 @@ using namespace vedrano;
 
 namespace {
 
-TablaPlanetas Tabla() {
-    TablaPlanetas t;
-    LeeTablaPlanetas(std::string(VEDRANO_DATOS) + "VDRDATF.DAT", t);
-    return t;
-}
+const TablaPlanetas& Tabla() { return pruebas::CatalogosDatos().TablaPlanetas; }
 
 // A state at noon UT of a Julian day, at a place (degrees, east positive)
 // and a zone (hours east of Greenwich).
 Estado Lugar(double jd0h, double lonEste, double lat, float zona = 0, bool verano = false) {
-    static const TablaPlanetas t = Tabla();
+    const TablaPlanetas& t = Tabla();
     Estado e;
     FijaFechaJuliana(e, t, jd0h + 0.5);
     FijaLugar(e, t, {-lonEste * GRADO, lat * GRADO, zona, verano});

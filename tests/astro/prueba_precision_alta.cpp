@@ -11,22 +11,16 @@
 #include <cmath>
 #include <vector>
 
+#include "Referencias.h"
 #include "astro/PrecisionAlta.h"
 
 using namespace vedrano;
 
 namespace {
 
-constexpr double DC_1900 = 2415020.5;
-constexpr double DC_2100 = 2488069.5;
 constexpr double C_UA_DIA = ERFA_CMPS * 86400.0 / ERFA_DAU;
 
-// Delta T from the long-term parabola of Morrison and Stephenson (2004),
-// not the model's polynomials: within 1900-2100 the two part by under 25 s.
-double TTDe(double jd) {
-    double u = (2000.0 + (jd - ERFA_DJ00) / 36525.0 * 100.0 - 1820.0) / 100.0;
-    return jd + (-20.0 + 32.0 * u * u) / 86400.0;
-}
+using namespace pruebas;
 
 // Apparent place, true equator and equinox of date: geocentric, or seen
 // from a station (east longitude, latitude) when `estacion` is given.
@@ -64,21 +58,6 @@ void Referencia(int cuerpo, double jd, double& ar, double& dec, const double* es
     eraAb(u, v, eraPm(pvh[0]), std::sqrt(1 - eraPdp(v, v)), ap);
     eraRxp(rnpb, ap, ap);
     eraC2s(ap, &ar, &dec);
-}
-
-struct Errores {
-    double mediana, maximo;
-};
-
-Errores Resumen(std::vector<double> v) {
-    std::sort(v.begin(), v.end());
-    return {v[v.size() / 2], v.back()};
-}
-
-std::vector<double> Fechas(double lo, double hi, int n) {
-    std::vector<double> f;
-    for (int k = 0; k < n; ++k) f.push_back(lo + (hi - lo - 1) * (k + 0.5) / n + std::fmod(k * 0.618034, 1.0));
-    return f;
 }
 
 }  // namespace

@@ -78,10 +78,7 @@ int LeeControles(QWidget* forma) {
     return leidos;
 }
 
-void Tecla(QWidget* w, int tecla, Qt::KeyboardModifiers mod = Qt::NoModifier) {
-    QKeyEvent ev(QEvent::KeyPress, tecla, mod);
-    QCoreApplication::sendEvent(w, &ev);
-}
+using pruebas::Tecla;
 
 }  // namespace
 

@@ -8,6 +8,7 @@
 
 #include "app/estado/Tiempo.h"
 #include "app/estado/Vista.h"
+#include "../Ayudas.h"
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "app/base/TablasFijas.h"
@@ -22,14 +23,9 @@ using pruebas::Raton;
 
 namespace {
 
-struct SinMensajes : InterfazMensajes {
-    int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 0; }
-};
-
 void EscribeCantidad(controles::Spin* s, const QString& texto) {
     s->campo()->setText(texto);
-    QKeyEvent intro(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    QCoreApplication::sendEvent(s->campo(), &intro);
+    pruebas::Tecla(s->campo(), Qt::Key_Return);
 }
 
 void Sal(Animar& a) { Clic(a.botonSalir(), QPoint(16, 16)); }
@@ -37,7 +33,6 @@ void Sal(Animar& a) { Clic(a.botonSalir(), QPoint(16, 16)); }
 class FormaAnimar : public ::testing::Test {
 protected:
     void SetUp() override {
-        pruebas::AseguraAplicacion();
         e.Velocidad = 100;
         e.Sonido = true;
         ctx.ArrancaTiempoReal = [this] { ++arranques; };
@@ -47,7 +42,7 @@ protected:
     controles::Contexto controles{e.Sonido, e.Velocidad};
     EstadoVentana ventana;
     Catalogos c;
-    SinMensajes m;
+    pruebas::Anota m;
     ContextoDialogo ctx{e, controles, ventana, c, m, nullptr, {}, {}, {}, {}, {}};
     pruebas::Falsos f;
     int arranques = 0, paradas = 0;

@@ -22,7 +22,6 @@ namespace {
 QString Recurso(const QString& url) { return QString(url).replace(QStringLiteral("qrc:"), QStringLiteral(":")); }
 
 TEST(Ayuda, CadaTemaYCadaEnlaceLlevanAUnaPagina) {
-    pruebas::AseguraAplicacion();
     const int temas[] = {tema::INDICE, tema::GENERAL, tema::CIELO, tema::CARGAGUAR, tema::PERSONAL, tema::LOCALI,
                          tema::HORA, tema::OBJETOS, tema::BUSCAR, tema::IMPRESOR, tema::ANIMAR,
                          tema::TECLADO, tema::ORDENES, tema::ARCHIVOS};
@@ -50,7 +49,6 @@ TEST(Ayuda, CadaTemaYCadaEnlaceLlevanAUnaPagina) {
 // serves every topic; while a form is open it belongs to the form (the
 // only window the user can reach then) and comes back when the form closes.
 TEST(Ayuda, VentanaNoModalUnaParaTodosLosTemas) {
-    pruebas::AseguraAplicacion();
     pruebas::Falsos f;
     bool sonido = false;
     int16_t velocidad = 100;
@@ -83,7 +81,6 @@ TEST(Ayuda, VentanaNoModalUnaParaTodosLosTemas) {
 }
 
 TEST(Careta, SeCierraTrasSuTiempoMinimoCuandoLaVentanaPrincipalEstaLista) {
-    pruebas::AseguraAplicacion();
     Estado e;
     e.Velocidad = 100;
     QPointer<Careta> careta = AbreCareta(e);

@@ -15,10 +15,7 @@ using namespace vedrano;
 
 namespace {
 
-void Teclea(QWidget* w, int tecla, const QString& texto = {}) {
-    QKeyEvent ev(QEvent::KeyPress, tecla, Qt::NoModifier, texto);
-    QCoreApplication::sendEvent(w, &ev);
-}
+using pruebas::Tecla;
 
 // Category `c` from the index and `filtro` typed, which chooses the first
 // line found: the text of its day.
@@ -26,10 +23,10 @@ QString DiaDe(pruebas::EntornoDialogo& d, int c, const QString& filtro) {
     Buscar b(d.ctx);
     b.show();
     b.indice()->setCurrentRow(c);
-    Teclea(&b, Qt::Key_Return);
+    Tecla(&b, Qt::Key_Return);
     EXPECT_EQ(b.categoria(), c);
     EXPECT_TRUE(b.textoDia().isEmpty());  // nothing chosen yet
-    for (QChar ch : filtro) Teclea(b.filtro(), 0, QString(ch));
+    pruebas::Escribe(b.filtro(), filtro);
     return b.textoDia();
 }
 

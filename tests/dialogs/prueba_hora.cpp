@@ -14,6 +14,7 @@
 #include "app/base/TablasControles.h"
 #include "app/estado/Tiempo.h"
 #include "app/estado/Vista.h"
+#include "../Ayudas.h"
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "app/base/Texto1252.h"
@@ -30,10 +31,6 @@ using pruebas::Clic;
 using pruebas::Raton;
 
 namespace {
-
-struct SinMensajes : InterfazMensajes {
-    int16_t Mensaje(const std::string&, const std::string&, int16_t, int16_t) override { return 0; }
-};
 
 // Days since 30 December 1899 of a Julian day (the clock's reading).
 double Reloj(double jd) { return jd - 2415018.5; }
@@ -112,10 +109,6 @@ TEST(ReglasHora, HorasEn24yAmPm) {
     EXPECT_EQ(CorrigeHora("", true).texto, "00:00");
     EXPECT_EQ(CorrigeHora("abc", true).texto, "00:00");
 
-    const HoraCorregida x = CorrigeHora("15:70 X", false);
-    EXPECT_EQ(x.hora, 11);
-    EXPECT_EQ(x.minuto, 59);
-    EXPECT_EQ(x.texto, "11:59 AM");
     const HoraCorregida p = CorrigeHora("3:5 p", false);
     EXPECT_EQ(p.texto, "03:05 PM");
     EXPECT_EQ(p.horaDelDia(), 15);
@@ -126,7 +119,6 @@ TEST(ReglasHora, HorasEn24yAmPm) {
 class FormaHora : public ::testing::Test {
 protected:
     void SetUp() override {
-        pruebas::AseguraAplicacion();
         e.Velocidad = 100;
         e.Sonido = true;
     }
@@ -134,7 +126,7 @@ protected:
     controles::Contexto controles{e.Sonido, e.Velocidad};
     EstadoVentana ventana;
     Catalogos c;
-    SinMensajes m;
+    pruebas::Anota m;
     ContextoDialogo ctx{e, controles, ventana, c, m, nullptr, {}, {}, {}, {}, {}};
     pruebas::Falsos f;
 };
@@ -160,21 +152,14 @@ TEST_F(FormaHora, AnoQueDejaDeSerBisiestoYTreintaYUnoDeFebrero) {
 TEST_F(FormaHora, EntradasMalas) {
     FijaFechaJuliana(e, c.TablaPlanetas, Juliana(2000, 1, 1, 12, 0));
     Hora h(ctx);
+    // The rules' corrections are shown (the rules themselves are tested
+    // above); an empty year reads 0, which the calendar takes as 1 AD.
     Escribe(h.ano(0), "-5000");
     EXPECT_EQ(h.ano(0)->text().trimmed(), "-4713");
-    Escribe(h.ano(0), "9000");
-    EXPECT_EQ(h.ano(0)->text().trimmed(), "7999");
-    Escribe(h.ano(0), "-");
-    EXPECT_EQ(h.ano(0)->text().trimmed(), "-1");
-    // An empty year reads 0, which the calendar takes as 1 AD.
     Escribe(h.ano(0), "");
     EXPECT_EQ(h.ano(0)->text().trimmed(), "1");
     EXPECT_DOUBLE_EQ(e.FechaJuliana, 1721424.0);  // 1 January 1 AD, 12:00
     Escribe(h.ano(0), "2000");
-    Escribe(h.dia(0), "xy");
-    EXPECT_EQ(h.dia(0)->text(), "01");
-    Escribe(h.mes(0), "");
-    EXPECT_EQ(h.mes(0)->text(), "01");
     Escribe(h.hora(0), "99999999999999999999:7");
     EXPECT_EQ(h.hora(0)->text(), "23:07");
     EXPECT_DOUBLE_EQ(e.FechaJuliana, Juliana(2000, 1, 1, 23, 7));

@@ -22,10 +22,7 @@ using namespace vedrano;
 
 namespace {
 
-void ClicLinea(QListWidget* l, int fila) {
-    l->scrollToItem(l->item(fila));
-    pruebas::Clic(l->viewport(), l->visualItemRect(l->item(fila)).center());
-}
+using pruebas::ClicLinea;
 
 int Fila(const Catalogos& c, const char* nombre) {
     for (std::size_t i = 0; i < c.Listas.Lugares.size(); ++i)
@@ -33,21 +30,14 @@ int Fila(const Catalogos& c, const char* nombre) {
     return -1;
 }
 
-// Types into a field key by key, as the keyboard does, then leaves it.
+// Types into a field key by key, as the keyboard does, over what it held.
 void Teclea(QLineEdit* campo, const QString& texto) {
     campo->setFocus();
     campo->selectAll();
-    QKeyEvent borra(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier);
-    QCoreApplication::sendEvent(campo, &borra);
-    for (QChar ch : texto) {
-        QKeyEvent ev(QEvent::KeyPress, 0, Qt::NoModifier, QString(ch));
-        QCoreApplication::sendEvent(campo, &ev);
-    }
+    pruebas::Tecla(campo, Qt::Key_Delete);
+    pruebas::Escribe(campo, texto);
 }
-void Intro(QLineEdit* campo) {
-    QKeyEvent ev(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    QCoreApplication::sendEvent(campo, &ev);
-}
+void Intro(QLineEdit* campo) { pruebas::Tecla(campo, Qt::Key_Return); }
 
 Ciudad Lugar(const char* nombre20, double gradosOeste, double latitud) {
     Ciudad c;

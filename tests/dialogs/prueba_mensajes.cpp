@@ -24,10 +24,7 @@ namespace {
 void CuandoAparezca(std::function<void(Mensajes&)> accion) { pruebas::CuandoAparezca<Mensajes>(accion); }
 using pruebas::Pulsa;
 
-void Tecla(QWidget* w, int tecla) {
-    QKeyEvent ev(QEvent::KeyPress, tecla, Qt::NoModifier);
-    QCoreApplication::sendEvent(w, &ev);
-}
+using pruebas::Tecla;
 
 class Mensaje : public ::testing::Test {
 protected:

@@ -15,6 +15,7 @@
 
 #include "app/estado/Tiempo.h"
 #include "app/estado/Vista.h"
+#include "../Ayudas.h"
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
 #include "config/LeeConfiguracion.h"
@@ -34,28 +35,12 @@ using namespace vedrano::controles;
 
 namespace {
 
-// Answers every question with the next scripted answer and keeps the texts.
-class MensajesGuion : public InterfazMensajes {
-public:
-    int16_t Mensaje(const std::string& texto, const std::string& titulo, int16_t botones, int16_t) override {
-        textos.push_back(texto);
-        titulos.push_back(titulo);
-        if (botones == 1 || respuestas.empty()) return -1;
-        const int16_t r = respuestas.front();
-        respuestas.erase(respuestas.begin());
-        return r;
-    }
-    std::vector<int16_t> respuestas;
-    std::vector<std::string> textos, titulos;
-};
-
 using pruebas::CuandoAparezca;
 using pruebas::Pulsa;
 
 class Opciones : public ::testing::Test {
 protected:
     void SetUp() override {
-        pruebas::AseguraAplicacion();
         e.Velocidad = 100;
         ctx = std::make_unique<ContextoDialogo>(ContextoDialogo{
             e, controles, ventana, c, m, nullptr, [this] { ++actualizaciones; }, [this] { ++dibujos; },
@@ -65,7 +50,7 @@ protected:
     controles::Contexto controles{e.Sonido, e.Velocidad};
     EstadoVentana ventana;
     Catalogos c;
-    MensajesGuion m;
+    pruebas::Anota m;
     pruebas::Falsos f;
     std::unique_ptr<ContextoDialogo> ctx;
     int actualizaciones = 0, dibujos = 0;
@@ -209,7 +194,7 @@ TEST_F(Opciones, PersonalGuardaLasPreferenciasDelPrograma) {
     EXPECT_TRUE(e.Pref.PrecisionAlta);
     EXPECT_EQ(actualizaciones, 1);
     EXPECT_TRUE(LeePreferencias(e.ArchivoPreferencias).PrecisionAlta);
-    EXPECT_TRUE(m.textos.empty());
+    EXPECT_TRUE(m.vistos.empty());
 
     // A file that cannot be written is said once; the choice holds anyway.
     e.ArchivoPreferencias = "/proc/vedrano/preferencias.ini";
@@ -219,8 +204,8 @@ TEST_F(Opciones, PersonalGuardaLasPreferenciasDelPrograma) {
     });
     AbrePersonal(*ctx);
     EXPECT_FALSE(e.Pref.PrecisionAlta);
-    ASSERT_EQ(m.textos.size(), 1u);
-    EXPECT_NE(m.textos[0].find("No se han podido guardar las preferencias"), std::string::npos);
+    ASSERT_EQ(m.vistos.size(), 1u);
+    EXPECT_NE(m.vistos[0].texto.find("No se han podido guardar las preferencias"), std::string::npos);
 }
 
 TEST_F(Opciones, ObjetosGuardaSusInterruptoresComoPreferenciasYNoComoConfiguracion) {
@@ -240,7 +225,7 @@ TEST_F(Opciones, ObjetosGuardaSusInterruptoresComoPreferenciasYNoComoConfiguraci
     AbreObjetos(*ctx);
     EXPECT_FALSE(e.Cambiado);  // nothing of the configuration changed
     EXPECT_EQ(dibujos, 1);
-    EXPECT_TRUE(m.textos.empty());
+    EXPECT_TRUE(m.vistos.empty());
 
     // A new start reads them back, and the form shows them as they were left.
     Estado otro;
@@ -268,10 +253,7 @@ protected:
         for (int i = 0; i < d.lista()->count(); ++i) r << d.lista()->item(i)->text();
         return r;
     }
-    std::string Lee(const std::string& n) {
-        std::ifstream f(e.DirArchivo + n, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(f), {});
-    }
+    std::string Lee(const std::string& n) { return pruebas::LeeArchivo(e.DirArchivo + n); }
     QTemporaryDir dir;
 };
 
@@ -294,7 +276,7 @@ TEST_F(Configuraciones, NombresFueraDeLaPaginaDeCodigos) {
     d.nombre()->setText(QString::fromUtf8("Ωmega-copia.ls1"));
     Pulsa(d.cargar());
     EXPECT_DOUBLE_EQ(e.FechaJuliana, 2451545.0);
-    EXPECT_TRUE(m.textos.empty());
+    EXPECT_TRUE(m.vistos.empty());
 }
 
 TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
@@ -310,10 +292,10 @@ TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
 
     // Saving again asks; Cancel leaves the file as it was.
     FijaFechaJuliana(e, c.TablaPlanetas, 2400000.0);
-    m.respuestas = {0};
+    m.respuesta = 0;
     Pulsa(d.guardar());
-    ASSERT_EQ(m.textos.size(), 1u);
-    EXPECT_NE(m.textos[0].find("Ya existe un archivo"), std::string::npos);
+    ASSERT_EQ(m.vistos.size(), 1u);
+    EXPECT_NE(m.vistos[0].texto.find("Ya existe un archivo"), std::string::npos);
     EXPECT_EQ(Lee("Prueba.ls1"), guardado);
 
     // Loading brings the saved situation back and updates the picture.
@@ -329,39 +311,21 @@ TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
     d.nombre()->setText(QStringLiteral(".ls1"));
     Pulsa(d.guardar());
     EXPECT_FALSE(QFile::exists(dir.filePath(".ls1")));
-    EXPECT_NE(m.textos.back().find("nombre.ls1"), std::string::npos);
-}
-
-// A name that leads nowhere is told, with the file, and the situation on
-// the screen stays as it was: the reader is not called.
-TEST_F(Configuraciones, NombreQueNoExisteNoCambiaNada) {
-    CargaGuar d(*ctx);
-    FijaFechaJuliana(e, c.TablaPlanetas, 2451545.0);
-    FijaZoom(e, 7.0f);
-    d.nombre()->setText(QStringLiteral("NoExiste"));
-    Pulsa(d.cargar());
-    ASSERT_EQ(m.textos.size(), 1u);
-    EXPECT_EQ(m.textos[0], "No existe un archivo de configuraci\xF3n con ese nombre.\r\n" + e.DirArchivo +
-                               "NoExiste.ls1");
-    EXPECT_EQ(m.titulos[0], "Cargar configuraci\xF3n");
-    EXPECT_DOUBLE_EQ(e.FechaJuliana, 2451545.0);
-    EXPECT_EQ(e.Zoom, 7.0f);
-    EXPECT_FALSE(e.Cambiado);
-    EXPECT_EQ(actualizaciones, 0);
+    EXPECT_NE(m.vistos.back().texto.find("nombre.ls1"), std::string::npos);
 }
 
 TEST_F(Configuraciones, NombreVacioYCarpetaSinEscritura) {
     CargaGuar d(*ctx);
     d.nombre()->setText(QStringLiteral("   "));
     for (Pulsador* b : {d.cargar(), d.guardar(), d.borrar()}) Pulsa(b);
-    EXPECT_EQ(m.textos.size(), 3u);
+    EXPECT_EQ(m.vistos.size(), 3u);
     EXPECT_EQ(actualizaciones, 0);
 
     // A folder that cannot be written: told, and the old file untouched.
     e.DirArchivo = e.DirArchivo + "notas.txt/";
     d.nombre()->setText(QStringLiteral("Nueva"));
     Pulsa(d.guardar());
-    EXPECT_EQ(m.textos.size(), 4u);
+    EXPECT_EQ(m.vistos.size(), 4u);
     EXPECT_EQ(Lee("../notas.txt"), "");
     e.DirArchivo = dir.path().toStdString() + "/";
     EXPECT_EQ(Lee("notas.txt"), "x");
@@ -370,10 +334,10 @@ TEST_F(Configuraciones, NombreVacioYCarpetaSinEscritura) {
 TEST_F(Configuraciones, BorrarPideConfirmacion) {
     CargaGuar d(*ctx);
     d.nombre()->setText(QStringLiteral("b"));
-    m.respuestas = {0};
+    m.respuesta = 0;
     Pulsa(d.borrar());
     EXPECT_TRUE(QFile::exists(dir.filePath("b.ls1")));
-    m.respuestas = {-1};
+    m.respuesta = -1;
     Pulsa(d.borrar());
     EXPECT_FALSE(QFile::exists(dir.filePath("b.ls1")));
     EXPECT_FALSE(Lista(d).contains("b.ls1"));
@@ -381,7 +345,7 @@ TEST_F(Configuraciones, BorrarPideConfirmacion) {
 
     d.nombre()->setText(QStringLiteral("noexiste.ls1"));
     Pulsa(d.borrar());
-    EXPECT_EQ(m.textos.back(), "No existe un archivo de configuraci\xF3n con ese nombre.\r\n" + e.DirArchivo +
+    EXPECT_EQ(m.vistos.back().texto, "No existe un archivo de configuraci\xF3n con ese nombre.\r\n" + e.DirArchivo +
                                    "noexiste.ls1");
 
     // The switch belongs to the configuration's state.

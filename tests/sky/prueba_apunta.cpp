@@ -4,6 +4,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "../Ayudas.h"
 #include "app/acciones/Centrado.h"
 #include "app/base/Texto1252.h"
 #include "astro/Coordenadas.h"
@@ -24,14 +25,7 @@ struct Anota : InterfazMensajes {
     }
 };
 
-const TablaPlanetas& Planetas() {
-    static TablaPlanetas t = [] {
-        TablaPlanetas p{};
-        LeeTablaPlanetas(std::string(VEDRANO_DATOS) + "VDRDATF.DAT", p);
-        return p;
-    }();
-    return t;
-}
+const TablaPlanetas& Planetas() { return pruebas::CatalogosDatos().TablaPlanetas; }
 
 Estado Base() {
     Estado e;

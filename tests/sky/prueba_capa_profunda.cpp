@@ -37,8 +37,7 @@ struct Capa : ::testing::Test {
         e.NivelEstrellas = 7;
         e.Precesion = true;
         FijaFechaJuliana(e, c.TablaPlanetas, 2460880.528);
-        Vector3f h = EcuatorialAHorizontal(e, AngulosAVector(310.35 * GRADO, 45.28 * GRADO));
-        FijaVista(e, std::fmod(std::atan2(-double{h.x}, double{h.y}) + 2 * M_PI, 2 * M_PI), std::asin(double{h.z}));
+        MiraA(e, AngulosAVector(310.35 * GRADO, 45.28 * GRADO));
     }
 
     QImage Dibuja(float zoom, bool debiles) {

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "../Ayudas.h"
+#include "../astro/Referencias.h"
 #include "CapasApagadas.h"
 #include "app/estado/Astros.h"
 #include "app/estado/Rotaciones.h"
@@ -56,15 +57,6 @@ int PixelesEncendidos(const QImage& img) {
 }
 
 PanelInformacion Dibuja(Estado& e, Lienzo& l) { return ActualizaCielo(e, Datos(), l); }
-
-// Turns the view toward an equatorial direction of the date.
-void MiraA(Estado& e, const Vector3f& v, float zoom) {
-    Vector3f h = EcuatorialAHorizontal(e, v);  // x west, y north, z zenith
-    double direccion = std::atan2(-double{h.x}, double{h.y});
-    if (direccion < 0) direccion += 2 * M_PI;
-    FijaVista(e, direccion, std::asin(double{h.z}));
-    FijaZoom(e, zoom);
-}
 
 }  // namespace
 
@@ -126,8 +118,7 @@ TEST(Dibujo, AStarIsDrawnWhereItProjectsAndNowhereElse) {
 
 TEST(Dibujo, DaylightFollowsTheSunsAltitude) {
     Lienzo l(100, 80);
-    const Catalogos& c = Datos();
-    for (int hora = 0; hora < 24; hora += 1) {
+    for (int hora = 0; hora < 24; ++hora) {
         Estado e = Apagado();
         e.Capas.LuzDi = 1;
         FijaFechaJuliana(e, Datos().TablaPlanetas, FechaAJuliana(ArmaCadenaFecha(2024, 3, 20, hora, 0)));
@@ -148,7 +139,6 @@ TEST(Dibujo, DaylightFollowsTheSunsAltitude) {
         if (std::fabs(seno + 0.15) < 0.14) {
             EXPECT_NEAR(azul, std::lround(seno * 640 + 192), 2) << hora;
         }
-        (void)c;
     }
 }
 
@@ -174,13 +164,10 @@ TEST(Dibujo, TheMoonCoversTheSunAtTheEclipse) {
 
 namespace {
 
-// Points the view at a catalogue direction.
+// Points the view at a catalogue direction at the state's instant.
 void CentraEn(Estado& e, const Vector3f& v) {
     ActualizaTiempo(e, Datos().TablaPlanetas);
-    Vector3f h = EcuatorialAHorizontal(e, v);
-    double direccion = std::atan2(-h.x, h.y);
-    if (direccion < 0) direccion += 2 * M_PI;
-    FijaVista(e, direccion, std::asin(h.z));
+    MiraA(e, v);
 }
 
 // Lit pixels in the row run through the picture's centre.
@@ -287,7 +274,7 @@ TEST(Dibujo, TheSunIsDrawnAtItsPlaceOfDateInAntiquity) {
     FijaLugar(e, Datos().TablaPlanetas, {4.02 * ERFA_DD2R, 39.86 * ERFA_DD2R, e.ZonaHoraria, e.HorarioVerano});  // west positive
     FijaFechaJuliana(e, Datos().TablaPlanetas, FechaAJuliana(ArmaCadenaFecha(1000, 1, 2, 12, 0)));
     ASSERT_NEAR(e.FechaJuliana, 2086309.0, 1e-6);  // Julian calendar
-    double u = (1000.0 - 1820.0) / 100.0, tt = e.FechaJuliana + (-20.0 + 32.0 * u * u) / 86400.0;
+    const double tt = pruebas::TTDe(e.FechaJuliana);
     double pvh[2][3], pvb[2][3], p[3], rnp[3][3], ar, dec;
     eraEpv00(tt, 0, pvh, pvb);
     for (int i = 0; i < 3; ++i) p[i] = -pvh[0][i];
@@ -295,7 +282,8 @@ TEST(Dibujo, TheSunIsDrawnAtItsPlaceOfDateInAntiquity) {
     eraRxp(rnp, p, p);
     eraC2s(p, &ar, &dec);
     Dibuja(e, l);  // settles the sidereal time for the view below
-    MiraA(e, AngulosAVector(ar, dec), 4);
+    MiraA(e, AngulosAVector(ar, dec));
+    FijaZoom(e, 4);
     Dibuja(e, l);
     const PosicionCuerpo& sol = e.Planetas[10];
     ASSERT_GE(sol.Z, e.Umbral);
@@ -328,7 +316,8 @@ TEST(Dibujo, TheMoonsShapeShowsTheMiddleOfItsPhaseStep) {
         if (std::remainder(m.AscRecta - s.AscRecta, 2 * M_PI) > 0 && elongacion > 50 && elongacion < 63) break;
     }
     ASSERT_GT(elongacion, 50);
-    MiraA(e, AngulosAVector(e.Planetas[11].AscRecta, e.Planetas[11].Declinacion), 20);
+    MiraA(e, AngulosAVector(e.Planetas[11].AscRecta, e.Planetas[11].Declinacion));
+    FijaZoom(e, 20);
     Dibuja(e, l);
     const PosicionCuerpo& m = e.Planetas[11];
     QPointF c = l.APixel(m.X, m.Y);

@@ -3,6 +3,8 @@
 #pragma once
 #include <QApplication>
 #include <functional>
+#include <QKeyEvent>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QTimer>
 #include <QWidget>
@@ -35,6 +37,29 @@ inline void Clic(QWidget* w, QPoint p, Qt::MouseButton boton = Qt::LeftButton) {
 
 // A click in the middle of a widget.
 inline void Pulsa(QWidget* w) { Clic(w, QPoint(w->width() / 2, w->height() / 2)); }
+
+// A key pressed on a widget, with the text it types.
+inline void Tecla(QWidget* w, int tecla, Qt::KeyboardModifiers mod = Qt::NoModifier, const QString& texto = {}) {
+    QKeyEvent ev(QEvent::KeyPress, tecla, mod, texto);
+    QCoreApplication::sendEvent(w, &ev);
+}
+
+// Text typed key by key.
+inline void Escribe(QWidget* w, const QString& texto) {
+    for (QChar ch : texto) Tecla(w, 0, Qt::NoModifier, QString(ch));
+}
+
+// A click on line `fila` of a list; `doble` follows it with a double click.
+inline void ClicLinea(QListWidget* l, int fila, bool doble = false) {
+    l->scrollToItem(l->item(fila));
+    const QPoint p = l->visualItemRect(l->item(fila)).center();
+    Clic(l->viewport(), p);
+    if (!doble) return;
+    QMouseEvent ev(QEvent::MouseButtonDblClick, QPointF(p), QPointF(l->viewport()->mapToGlobal(p)), Qt::LeftButton,
+                   Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(l->viewport(), &ev);
+    Raton(l->viewport(), QEvent::MouseButtonRelease, p);
+}
 
 // The text shown by the field of type Campo named `nombre` (its accessible
 // name) inside `ventana`; empty, and a failure, when there is none.

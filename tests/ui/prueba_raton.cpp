@@ -30,7 +30,6 @@ struct Ventana {
     controles::Contexto k{e.Sonido, e.Velocidad};
     std::unique_ptr<Cielo> cielo;
     Ventana() {
-        pruebas::AseguraAplicacion();
         FijaFechaJuliana(e, Datos().TablaPlanetas, 2460700.5);
         FijaLugar(e, Datos().TablaPlanetas, {e.Longitud, 40.4 * GRADO, e.ZonaHoraria, e.HorarioVerano});
         FijaVista(e, 3.0, 0.5);
