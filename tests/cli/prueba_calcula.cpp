@@ -157,20 +157,6 @@ TEST(Calcula, EveryOperationInOneBatch) {
     EXPECT_EQ(r[37], "ERROR 9");
 }
 
-TEST(Calcula, ProjectionAndInverseAgree) {
-    // A star at RA 0.3, Dec -0.1 projected, then read back under its screen point.
-    char lote[256];
-    std::snprintf(lote, sizeof lote, "ProyectaPunto 0.4 0.7 3.1415926536 0.7 %.9g %.9g %.9g\n",
-                  -std::sin(0.3) * std::cos(0.1), std::sin(-0.1), std::cos(0.3) * std::cos(0.1));
-    auto p = Numeros(Ejecuta(lote, VEDRANO_DATOS).at(0));
-    ASSERT_EQ(p.size(), 3u);
-    std::snprintf(lote, sizeof lote, "PuntoACielo 0.4 0.7 3.1415926536 0.7 %.9g %.9g\n", p[0], p[1]);
-    auto c = Numeros(Ejecuta(lote, VEDRANO_DATOS).at(0));
-    ASSERT_EQ(c.size(), 4u);
-    EXPECT_NEAR(c[0], 0.3, 2e-5);
-    EXPECT_NEAR(c[1], -0.1, 2e-5);
-}
-
 // The run as a whole still ends with code 1.
 TEST(Calcula, MissingDataFolderOnlyStopsTheOperationsThatNeedIt) {
     std::vector<std::string> r = Ejecuta("HallaSol 2451545\nEsBisiesto 2000\nHallaPlaneta 4 2451545\n",

@@ -263,7 +263,6 @@ TEST_F(Configuracion, ArchivosDanadosSeInformanYConservanLoLeido) {
         // overflowed its degrees at start-up, a speed froze the window.
         {"direccion 600", cambia(1, 5, "600"), 380, 1, 5},
         {"direccion negativa", cambia(1, 5, "-600"), 380, 1, 5},
-        {"direccion 1E37", cambia(1, 5, "1E37"), 380, 1, 5},
         {"direccion maxima", cambia(1, 5, "1.7976931348623157E+308"), 380, 1, 5},
         {"elevacion bajo el horizonte", cambia(1, 6, "-0.1"), 380, 1, 6},
         {"zoom cero", cambia(1, 7, "0"), 380, 1, 7},
@@ -274,7 +273,6 @@ TEST_F(Configuracion, ArchivosDanadosSeInformanYConservanLoLeido) {
         {"formato de hora", cambia(4, 7, "3"), 380, 4, 7},
         {"orientacion", cambia(4, 8, "0"), 380, 4, 8},
         {"campo del telescopio", cambia(4, 12, "-1"), 380, 4, 12},
-        {"velocidad -400", cambia(4, 13, "-400"), 380, 4, 13},
         {"velocidad -32768", cambia(4, 13, "-32768"), 380, 4, 13},
         {"cantidad de pasos", cambia(4, 16, "0"), 380, 4, 16},
     };

@@ -14,6 +14,7 @@
 
 #include "../ui/EntornoQt.h"
 #include "../ui/Falsos.h"
+#include "../ui/VentanaPrueba.h"
 #include "ContextoPrueba.h"
 #include "dialogs/Animar.h"
 #include "dialogs/piezas/Ayuda.h"
@@ -83,13 +84,9 @@ using pruebas::Tecla;
 }  // namespace
 
 TEST(Accesible, MainWindowControlsHaveNameAndValueAndAllTakeTheFocus) {
-    pruebas::Falsos f;
-    Estado e;
-    e.PanelCursor = true;
-    controles::Contexto k{e.Sonido, e.Velocidad};
-    Cielo cielo(e, k, pruebas::CatalogosDatos(), DialogosCielo{});
-    cielo.show();
-    cielo.ActualizaCielo();
+    pruebas::VentanaPrueba v;
+    v.e.PanelCursor = true;
+    Cielo& cielo = v.Abre();
     EXPECT_GE(LeeControles(&cielo), 9 + 5 + 1 + 16);
 
     QAccessibleInterface* direccion = QAccessible::queryAccessibleInterface(cielo.SubBaj(flechas::Direccion));

@@ -42,19 +42,12 @@ double Juliana(int ano, int mes, int dia, int hora, int minuto) {
 // Types `texto` over the whole field and leaves it with Enter or, when
 // `saliendo`, by losing the focus.
 void Escribe(QLineEdit* campo, const QString& texto, bool saliendo = false) {
-    campo->selectAll();
-    QKeyEvent borra(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier);
-    QCoreApplication::sendEvent(campo, &borra);
-    for (QChar ch : texto) {
-        QKeyEvent tecla(QEvent::KeyPress, ch.toUpper().unicode(), Qt::NoModifier, QString(ch));
-        QCoreApplication::sendEvent(campo, &tecla);
-    }
+    pruebas::EscribeEncima(campo, texto);
     if (saliendo) {
         QFocusEvent fuera(QEvent::FocusOut, Qt::TabFocusReason);
         QCoreApplication::sendEvent(campo, &fuera);
     } else {
-        QKeyEvent intro(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-        QCoreApplication::sendEvent(campo, &intro);
+        pruebas::Tecla(campo, Qt::Key_Return);
     }
 }
 
@@ -330,13 +323,7 @@ TEST_F(FormaHora, LoEscritoSinSalirNoSePierde) {
     FijaFechaJuliana(e, c.TablaPlanetas, Juliana(2000, 1, 1, 12, 0));
     Hora h(ctx);
     // Typed without leaving the field, then a step key: the year counts.
-    h.ano(0)->selectAll();
-    QKeyEvent borra(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier);
-    QCoreApplication::sendEvent(h.ano(0), &borra);
-    for (QChar ch : QString("1999")) {
-        QKeyEvent t(QEvent::KeyPress, ch.unicode(), Qt::NoModifier, QString(ch));
-        QCoreApplication::sendEvent(h.ano(0), &t);
-    }
+    pruebas::EscribeEncima(h.ano(0), "1999");
     PulsaTecla(h.tecla(2), f, controles, true, 1);  // one solar day
     EXPECT_DOUBLE_EQ(e.FechaJuliana, Juliana(1999, 1, 2, 12, 0));
 }

@@ -33,9 +33,7 @@ int Fila(const Catalogos& c, const char* nombre) {
 // Types into a field key by key, as the keyboard does, over what it held.
 void Teclea(QLineEdit* campo, const QString& texto) {
     campo->setFocus();
-    campo->selectAll();
-    pruebas::Tecla(campo, Qt::Key_Delete);
-    pruebas::Escribe(campo, texto);
+    pruebas::EscribeEncima(campo, texto);
 }
 void Intro(QLineEdit* campo) { pruebas::Tecla(campo, Qt::Key_Return); }
 

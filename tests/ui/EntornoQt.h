@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <functional>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QTimer>
@@ -46,7 +47,14 @@ inline void Tecla(QWidget* w, int tecla, Qt::KeyboardModifiers mod = Qt::NoModif
 
 // Text typed key by key.
 inline void Escribe(QWidget* w, const QString& texto) {
-    for (QChar ch : texto) Tecla(w, 0, Qt::NoModifier, QString(ch));
+    for (QChar ch : texto) Tecla(w, ch.toUpper().unicode(), Qt::NoModifier, QString(ch));
+}
+
+// Text typed over all that a field held.
+inline void EscribeEncima(QLineEdit* campo, const QString& texto) {
+    campo->selectAll();
+    Tecla(campo, Qt::Key_Delete);
+    Escribe(campo, texto);
 }
 
 // A click on line `fila` of a list; `doble` follows it with a double click.

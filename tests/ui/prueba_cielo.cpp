@@ -10,7 +10,7 @@
 #include "app/estado/Vista.h"
 #include "EntornoQt.h"
 #include "../Ayudas.h"
-#include "Falsos.h"
+#include "VentanaPrueba.h"
 #include "app/base/Constantes.h"
 #include "app/base/Cursores.h"
 #include "app/base/Formato.h"
@@ -44,19 +44,13 @@ struct Contestador {
     }
 };
 
-struct Ventana {
-    pruebas::Falsos falsos;
-    Estado e;
-    controles::Contexto k{e.Sonido, e.Velocidad};
-    DialogosCielo dialogos;
-    std::unique_ptr<Cielo> cielo;
+struct Ventana : pruebas::VentanaPrueba {
     Ventana() {
         FijaFechaJuliana(e, Datos().TablaPlanetas, 2460700.5);
         dialogos.Mensaje = [this](QWidget* p, const std::string& t, const std::string& ti, int16_t b, int16_t i) {
             return MuestraMensaje(e, k, p, t, ti, b, i);
         };
-        cielo = std::make_unique<Cielo>(e, k, Datos(), dialogos);
-        cielo->ActualizaCielo();
+        Abre(false);
     }
     // Presses arrow pair i at x and lets the loop run `pasos` steps.
     void Pulsa(int i, int x, int pasos) {
@@ -145,9 +139,8 @@ TEST(Cielo, TimeArrowsStepAndAreRefusedInRealTime) {
 TEST(Cielo, OpeningADialogStopsTheAnimation) {
     Ventana v;
     bool corriaAlAbrir = true;
-    v.cielo.reset();
     v.dialogos.Objetos = [&](ContextoDialogo& ctx) { corriaAlAbrir = ctx.ventana.Sujecion || ctx.ventana.Enganche; };
-    v.cielo = std::make_unique<Cielo>(v.e, v.k, Datos(), v.dialogos);
+    v.Abre(false);
     v.ventana().Sujecion = v.ventana().Enganche = true;
     v.cielo->BotonSoltado(boton::Objetos);
     EXPECT_FALSE(corriaAlAbrir);

@@ -18,7 +18,7 @@
 #include "app/estado/Vista.h"
 #include "../dialogs/ContextoPrueba.h"
 #include "EntornoQt.h"
-#include "Falsos.h"
+#include "VentanaPrueba.h"
 #include "app/base/Constantes.h"
 #include "dialogs/Animar.h"
 #include "dialogs/Buscar.h"
@@ -56,16 +56,11 @@ std::vector<const QWidget*> Partes(const Cielo& c) {
     return r;
 }
 
-struct Principal {
-    pruebas::Falsos falsos;
-    Estado e;
-    controles::Contexto k{e.Sonido, e.Velocidad};
-    std::unique_ptr<Cielo> cielo;
+// The window with the cursor panel on, shown.
+struct Principal : pruebas::VentanaPrueba {
     Principal() {
         e.PanelCursor = true;
-        cielo = std::make_unique<Cielo>(e, k, pruebas::CatalogosDatos(), DialogosCielo{});
-        cielo->show();
-        cielo->ActualizaCielo();
+        Abre();
     }
 };
 

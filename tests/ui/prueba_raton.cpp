@@ -10,7 +10,7 @@
 #include "app/estado/Vista.h"
 #include "EntornoQt.h"
 #include "../Ayudas.h"
-#include "Falsos.h"
+#include "VentanaPrueba.h"
 #include "app/base/Constantes.h"
 #include "catalogue/CargaCatalogos.h"
 #include "sky/apunta/Apunta.h"
@@ -24,20 +24,14 @@ namespace {
 
 const Catalogos& Datos() { return pruebas::CatalogosDatos(); }
 
-struct Ventana {
-    pruebas::Falsos falsos;
-    Estado e;
-    controles::Contexto k{e.Sonido, e.Velocidad};
-    std::unique_ptr<Cielo> cielo;
+struct Ventana : pruebas::VentanaPrueba {
     Ventana() {
         FijaFechaJuliana(e, Datos().TablaPlanetas, 2460700.5);
         FijaLugar(e, Datos().TablaPlanetas, {e.Longitud, 40.4 * GRADO, e.ZonaHoraria, e.HorarioVerano});
         FijaVista(e, 3.0, 0.5);
         FijaZoom(e, 3.0f);
         e.PanelCursor = true;
-        cielo = std::make_unique<Cielo>(e, k, Datos(), DialogosCielo{});
-        cielo->show();
-        cielo->ActualizaCielo();
+        Abre();
     }
     VistaCielo* vista() { return &cielo->Vista(); }
     // The horizon place under a pixel of the picture, with the view as it is.

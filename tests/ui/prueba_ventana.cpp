@@ -17,7 +17,7 @@
 #include "app/estado/Vista.h"
 #include "EntornoQt.h"
 #include "../Ayudas.h"
-#include "Falsos.h"
+#include "VentanaPrueba.h"
 #include "catalogue/CargaCatalogos.h"
 #include "config/EscribeConfiguracion.h"
 #include "dialogs/Animar.h"
@@ -46,14 +46,14 @@ const Catalogos& Datos() { return pruebas::CatalogosDatos(); }
 using pruebas::CuandoAparezca;
 using pruebas::Pulsa;
 
-class Ventana : public ::testing::Test {
+class Ventana : public ::testing::Test, public pruebas::VentanaPrueba {
 protected:
     void SetUp() override {
         ASSERT_TRUE(carpeta.isValid());
         e.DirArchivo = carpeta.path().toStdString() + "/";
         e.Velocidad = 100;
         FijaFechaJuliana(e, Datos().TablaPlanetas, 2460700.5);
-        DialogosCielo d;
+        DialogosCielo& d = dialogos;
         d.CargaGuar = AbreCargaGuar;
         d.Personal = AbrePersonal;
         d.Locali = AbreLocali;
@@ -63,9 +63,7 @@ protected:
         d.Mensaje = [this](QWidget* p, const std::string& t, const std::string& ti, int16_t b, int16_t i) {
             return MuestraMensaje(e, k, p, t, ti, b, i);
         };
-        cielo = std::make_unique<Cielo>(e, k, Datos(), d);
-        cielo->show();
-        cielo->ActualizaCielo();
+        Abre();
     }
 
     QImage Imagen() const { return cielo->Vista().Canvas().Imagen().copy(); }
@@ -87,11 +85,7 @@ protected:
         EXPECT_EQ(Imagen(), Fresca());
     }
 
-    pruebas::Falsos falsos;
     QTemporaryDir carpeta;
-    Estado e;
-    controles::Contexto k{e.Sonido, e.Velocidad};
-    std::unique_ptr<Cielo> cielo;
 };
 
 // 1 March 2025, 12:00 UT, as the system's clock reads it.
