@@ -5,6 +5,7 @@
 #include <fstream>
 #include <vector>
 
+#include "../Ayudas.h"
 #include "app/acciones/Arranque.h"
 #include "app/base/Texto1252.h"
 
@@ -29,15 +30,7 @@ fs::path Instalacion(const std::string& nombre) {
     return raiz;
 }
 
-struct Respuestas : InterfazMensajes {
-    int16_t respuesta = 1;
-    std::vector<std::string> textos, titulos;
-    int16_t Mensaje(const std::string& t, const std::string& ti, int16_t, int16_t) override {
-        textos.push_back(DesdeA1252(t));
-        titulos.push_back(DesdeA1252(ti));
-        return respuesta;
-    }
-};
+using Respuestas = pruebas::Anota;
 
 struct PantallaFalsa : plataforma::Pantalla {
     int ancho, alto;
@@ -100,24 +93,24 @@ TEST(Arranque, ScreenWidthCheck) {
     Respuestas r;
     PantallaFalsa ancha(800, 480);
     EXPECT_TRUE(CompruebaPantalla(ancha, r));
-    EXPECT_TRUE(r.textos.empty());
+    EXPECT_TRUE(r.vistos.empty());
 
     PantallaFalsa estrecha(799, 1200);
     r.respuesta = 0;  // Cancel: the program ends
     EXPECT_FALSE(CompruebaPantalla(estrecha, r));
-    ASSERT_EQ(r.textos.size(), 1u);
-    EXPECT_EQ(r.titulos[0], "Resolución de pantalla");
-    EXPECT_NE(r.textos[0].find("es de (799x1200).  Pulse"), std::string::npos);
+    ASSERT_EQ(r.vistos.size(), 1u);
+    EXPECT_EQ(r.vistos[0].titulo, A1252("Resolución de pantalla"));
+    EXPECT_NE(r.vistos[0].texto.find("es de (799x1200).  Pulse"), std::string::npos);
     EXPECT_EQ(estrecha.cambios, 0);
 
     // Accept, on a system that cannot change the mode: one honest message.
     Respuestas s;
     PantallaFalsa vieja(640, 480);
     EXPECT_TRUE(CompruebaPantalla(vieja, s));
-    ASSERT_EQ(s.textos.size(), 2u);
-    EXPECT_NE(s.textos[0].find("(640x480)"), std::string::npos);
-    EXPECT_EQ(s.textos[1], "No se puede cambiar la resolución de la pantalla.");
-    EXPECT_EQ(s.titulos[1], "Cambio de resolución de pantalla");
+    ASSERT_EQ(s.vistos.size(), 2u);
+    EXPECT_NE(s.vistos[0].texto.find("(640x480)"), std::string::npos);
+    EXPECT_EQ(s.vistos[1].texto, A1252("No se puede cambiar la resolución de la pantalla."));
+    EXPECT_EQ(s.vistos[1].titulo, A1252("Cambio de resolución de pantalla"));
 
     for (long resultado : {0L, 1L, 5L}) {
         Respuestas t;
@@ -125,11 +118,11 @@ TEST(Arranque, ScreenWidthCheck) {
         cambiable.prueba = 0;
         cambiable.cambio = resultado;
         EXPECT_TRUE(CompruebaPantalla(cambiable, t));
-        ASSERT_EQ(t.textos.size(), 2u);
+        ASSERT_EQ(t.vistos.size(), 2u);
         const char* esperado = resultado == 0   ? "Se ha cambiado con éxito la resolución de la pantalla a 800x600."
                                : resultado == 1 ? "Necesita reiniciar el equipo para que los cambios tengan efecto."
                                                 : "No se ha podido realizar el cambio de resolución de la pantalla. "
                                                   "Inténtelo de forma manual.";
-        EXPECT_EQ(t.textos[1], esperado);
+        EXPECT_EQ(t.vistos[1].texto, A1252(esperado));
     }
 }

@@ -44,11 +44,8 @@ TEST(TextosAngulo, HoursWithCarries) {
 
 TEST(TextosAngulo, CompassAndDegrees) {
     EXPECT_EQ(U(TextoDireccion(135 * kGrado)), "135° SE");
-    EXPECT_EQ(U(TextoDireccion(350 * kGrado)), "350° N ");
     EXPECT_EQ(U(TextoDireccion(10 * kGrado)), " 10° N ");
-    EXPECT_EQ(U(TextoDireccion(180 * kGrado)), "180° S ");
-    EXPECT_EQ(U(TextoDireccion(265 * kGrado)), "265° O ");
-    EXPECT_EQ(U(TextoDireccion(300 * kGrado)), "300° NO");
+    // Every whole degree falls in its eighth of the compass.
     const char* sectores[] = {"N ", "NE", "E ", "SE", "S ", "SO", "O ", "NO"};
     for (int g = 0; g < 360; ++g) {
         int k = static_cast<int>(std::floor((g + 22.5) / 45)) % 8;

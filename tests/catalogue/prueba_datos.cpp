@@ -1,6 +1,7 @@
 // The shipped catalogue files: reproducible from the sources, with the
 // record counts, lengths and orders the loader and the plotters rely on,
 // and positions that agree with published coordinates.
+#include <erfa.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -39,10 +40,7 @@ double Radianes(double grados, double minutos, double segundos) {
 }
 double Horas(double h, double m, double s) { return Radianes(h, m, s) * 15.0; }
 
-double Separacion(double ar1, double d1, double ar2, double d2) {
-    double c = std::sin(d1) * std::sin(d2) + std::cos(d1) * std::cos(d2) * std::cos(ar1 - ar2);
-    return std::acos(std::clamp(c, -1.0, 1.0));
-}
+double Separacion(double ar1, double d1, double ar2, double d2) { return eraSeps(ar1, d1, ar2, d2); }
 
 const double UN_MINUTO = M_PI / 180.0 / 60.0;
 
@@ -156,12 +154,8 @@ TEST(DatosCatalogo, OrdenesYTablasDeCuentas) {
         previa = m;
     }
     auto cuentas = Fichero("VDRDATA.DAT");
-    // Record per table: file, record length, class offset (-1: magnitude).
-    struct Nivel { const char* nombre; int largo; int registros; };
-    const Nivel niveles[] = {{"VDRDAT1.DAT", 18, 26520}, {"VDRDAT2.DAT", 44, 2583},
-                             {"VDRDATB.DAT", 14, 873},   {"VDRDAT3.DAT", 28, 1234},
-                             {"VDRDAT4.DAT", 28, 142},   {"VDRDAT5.DAT", 28, 174},
-                             {"VDRDATI.DAT", 28, 296},   {"VDRDATJ.DAT", 28, 75}};
+    // The count tables' order: stars, names, figures, then the deep sky.
+    const Tabla niveles[] = {TABLAS[8], TABLAS[7], TABLAS[3], TABLAS[4], TABLAS[5], TABLAS[6], TABLAS[11], TABLAS[12]};
     for (int t = 0; t < 8; ++t) {
         SCOPED_TRACE(niveles[t].nombre);
         LectorCampos l(Registro(cuentas, 16, t));
@@ -225,10 +219,7 @@ const Conocido CONOCIDOS[] = {
     {"VDRDATM.DAT", 32, 12, "Sagitario A*", 12, Horas(17, 45, 40.04), Radianes(-29, 0, 28.1)},
 };
 
-std::string Recorta(std::string s) {
-    while (!s.empty() && s.back() == ' ') s.pop_back();
-    return s;
-}
+std::string Recorta(std::string_view t) { return std::string(t.substr(0, t.find_last_not_of(' ') + 1)); }
 
 TEST(DatosCatalogo, ObjetosConocidosEnSuPosicionPublicada) {
     for (const auto& c : CONOCIDOS) {
@@ -313,8 +304,7 @@ TEST(DatosCatalogo, NombresYMagnitudesComoLosDaElCielo) {
     std::map<std::string, float> magnitud;
     for (int i = 0; i < 2583; ++i) {
         std::string_view r = Registro(estrellas, 44, i);
-        auto corta = [](std::string_view t) { return std::string(t.substr(0, t.find_last_not_of(' ') + 1)); };
-        std::string d = corta(r.substr(0, 8)), n = corta(r.substr(8, 10));
+        std::string d = Recorta(r.substr(0, 8)), n = Recorta(r.substr(8, 10));
         float m;
         std::memcpy(&m, r.data() + 26, 4);
         porDesignacion[d] = n;

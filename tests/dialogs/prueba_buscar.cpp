@@ -56,6 +56,11 @@ protected:
         Escribe(b.filtro(), filtro);
         Pulsa(b.botonBuscar());
     }
+    // A context of its own at the test's instant.
+    void Prepara(pruebas::EntornoDialogo& x) {
+        FijaFechaJuliana(x.e, x.c.TablaPlanetas, d.e.FechaJuliana);
+        x.ctx.ActualizaCielo();
+    }
     pruebas::Falsos f;
     pruebas::EntornoDialogo d;
 };
@@ -191,8 +196,7 @@ TEST_F(BuscarObjetos, CentraEstrellasObjetosYConstelaciones) {
     };
     for (const Caso& caso : casos) {
         pruebas::EntornoDialogo d2;
-        FijaFechaJuliana(d2.e, d2.c.TablaPlanetas, d.e.FechaJuliana);
-        d2.ctx.ActualizaCielo();
+        Prepara(d2);
         Buscar b(d2.ctx);
         b.show();
         BuscaPorBoton(b, caso.categoria, caso.filtro);
@@ -214,8 +218,7 @@ TEST_F(BuscarObjetos, CentraEstrellasObjetosYConstelaciones) {
 TEST_F(BuscarObjetos, CentraMarteYLaLuna) {
     for (int linea : {3, 10}) {
         pruebas::EntornoDialogo d2;
-        FijaFechaJuliana(d2.e, d2.c.TablaPlanetas, d.e.FechaJuliana);
-        d2.ctx.ActualizaCielo();
+        Prepara(d2);
         Buscar b(d2.ctx);
         b.show();
         ClicLinea(b.indice(), 0);
@@ -270,10 +273,8 @@ TEST_F(BuscarObjetos, ListasDeLecturaYTierraNoCentranNada) {
 
 TEST_F(BuscarObjetos, DobleClicEsElegirYBuscar) {
     pruebas::EntornoDialogo a, b;
-    for (auto* x : {&a, &b}) {
-        FijaFechaJuliana(x->e, x->c.TablaPlanetas, d.e.FechaJuliana);
-        x->ctx.ActualizaCielo();
-    }
+    Prepara(a);
+    Prepara(b);
     Buscar fa(a.ctx), fb(b.ctx);
     fa.show();
     fb.show();

@@ -17,13 +17,7 @@ using namespace vedrano;
 
 namespace {
 
-struct Anota : InterfazMensajes {
-    std::vector<std::string> textos;
-    int16_t Mensaje(const std::string& t, const std::string&, int16_t, int16_t) override {
-        textos.push_back(DesdeA1252(t));
-        return 1;
-    }
-};
+using pruebas::Anota;
 
 const TablaPlanetas& Planetas() { return pruebas::CatalogosDatos().TablaPlanetas; }
 
@@ -60,8 +54,8 @@ TEST(Apunta, CulminationAimsTheView) {
     n.ObjetivoDEC = n.Latitud - 1.5707963268 - 1e-9;  // never rises
     EXPECT_FALSE(CentraObjeto(n, Planetas(), m));
     EXPECT_EQ(n.FechaJuliana, antes);
-    ASSERT_FALSE(m.textos.empty());
-    EXPECT_EQ(m.textos.back(),
+    ASSERT_FALSE(m.vistos.empty());
+    EXPECT_EQ(DesdeA1252(m.vistos.back().texto),
               "Ese punto  se  encuentra bajo  el  horizonte  y  no  es  visible desde la Latitud actual");
 }
 
