@@ -81,6 +81,7 @@ TEST(ReglasHora, DiaYMes) {
     EXPECT_EQ(CorrigeMes("0").texto, "01");
     EXPECT_EQ(CorrigeMes("").valor, 1);
     EXPECT_EQ(CorrigeDia("31", 4, 2001).texto, "30");
+    EXPECT_EQ(CorrigeDia("31", 11, 2001).texto, "30");
     EXPECT_EQ(CorrigeDia("31", 12, 2001).texto, "31");
     EXPECT_EQ(CorrigeDia("32", 1, 2001).texto, "31");
     EXPECT_EQ(CorrigeDia("0", 1, 2001).texto, "01");
