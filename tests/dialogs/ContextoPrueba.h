@@ -2,7 +2,9 @@
 // once from Datos/, a state whose work file goes to a temporary folder, a
 // sky picture that the context's redraws paint, and the messages noted.
 #pragma once
+#include <QDialog>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -10,6 +12,14 @@
 #include "app/base/Texto1252.h"
 #include "app/estado/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
+#include "dialogs/Animar.h"
+#include "dialogs/Buscar.h"
+#include "dialogs/CargaGuar.h"
+#include "dialogs/Hora.h"
+#include "dialogs/Impresor.h"
+#include "dialogs/Locali.h"
+#include "dialogs/Objetos.h"
+#include "dialogs/Personal.h"
 #include "ui/formas/ContextoDialogo.h"
 #include "sky/DibujaCielo.h"
 
@@ -49,5 +59,19 @@ struct EntornoDialogo {
     vedrano::ContextoDialogo ctx;
     int redibujos = 0, actualizaciones = 0;
 };
+
+// Every form a button of the main window opens, over one context.
+inline std::vector<std::unique_ptr<QDialog>> Formas(vedrano::ContextoDialogo& ctx) {
+    std::vector<std::unique_ptr<QDialog>> f;
+    f.push_back(std::make_unique<vedrano::Animar>(ctx));
+    f.push_back(std::make_unique<vedrano::Buscar>(ctx));
+    f.push_back(std::make_unique<vedrano::CargaGuar>(ctx));
+    f.push_back(std::make_unique<vedrano::Hora>(ctx));
+    f.push_back(std::make_unique<vedrano::Impresor>(ctx));
+    f.push_back(std::make_unique<vedrano::Locali>(ctx));
+    f.push_back(std::make_unique<vedrano::Objetos>(ctx));
+    f.push_back(std::make_unique<vedrano::Personal>(ctx));
+    return f;
+}
 
 }  // namespace pruebas

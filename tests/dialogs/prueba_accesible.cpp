@@ -16,16 +16,8 @@
 #include "../ui/Falsos.h"
 #include "../ui/VentanaPrueba.h"
 #include "ContextoPrueba.h"
-#include "dialogs/Animar.h"
 #include "dialogs/piezas/Ayuda.h"
-#include "dialogs/Buscar.h"
-#include "dialogs/CargaGuar.h"
-#include "dialogs/Hora.h"
-#include "dialogs/Impresor.h"
-#include "dialogs/Locali.h"
 #include "dialogs/piezas/Mensajes.h"
-#include "dialogs/Objetos.h"
-#include "dialogs/Personal.h"
 #include "ui/cielo/Cielo.h"
 #include "ui/cielo/IndicesCielo.h"
 #include "ui/cielo/Paneles.h"
@@ -114,20 +106,11 @@ TEST(Accesible, MainWindowControlsHaveNameAndValueAndAllTakeTheFocus) {
 TEST(Accesible, EveryFormTellsNameAndValueOfEachControl) {
     pruebas::Falsos f;
     pruebas::EntornoDialogo d;
-    const std::function<std::unique_ptr<QWidget>()> formas[] = {
-        [&] { return std::make_unique<CargaGuar>(d.ctx); },
-        [&] { return std::make_unique<Personal>(d.ctx); },
-        [&] { return std::make_unique<Locali>(d.ctx); },
-        [&] { return std::make_unique<Hora>(d.ctx); },
-        [&] { return std::make_unique<Objetos>(d.ctx); },
-        [&] { return std::make_unique<Buscar>(d.ctx); },
-        [&] { return std::make_unique<Impresor>(d.ctx); },
-        [&] { return std::make_unique<Animar>(d.ctx); },
-        [&] { return std::make_unique<Mensajes>(d.e, d.controles, nullptr, "Texto", "Titulo", 2, 1, 1020); },
-        [&] { return std::make_unique<VentanaAyuda>(d.controles, nullptr, tema::TECLADO); },
-    };
-    for (const auto& crea : formas) {
-        std::unique_ptr<QWidget> forma = crea();
+    std::vector<std::unique_ptr<QWidget>> formas;
+    for (auto& f : pruebas::Formas(d.ctx)) formas.push_back(std::move(f));
+    formas.push_back(std::make_unique<Mensajes>(d.e, d.controles, nullptr, "Texto", "Titulo", 2, 1, 1020));
+    formas.push_back(std::make_unique<VentanaAyuda>(d.controles, nullptr, tema::TECLADO));
+    for (const auto& forma : formas) {
         forma->show();
         EXPECT_GE(LeeControles(forma.get()), 2) << forma->metaObject()->className();
     }

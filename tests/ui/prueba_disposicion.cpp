@@ -20,14 +20,7 @@
 #include "EntornoQt.h"
 #include "VentanaPrueba.h"
 #include "app/base/Constantes.h"
-#include "dialogs/Animar.h"
 #include "dialogs/Buscar.h"
-#include "dialogs/CargaGuar.h"
-#include "dialogs/Hora.h"
-#include "dialogs/Impresor.h"
-#include "dialogs/Locali.h"
-#include "dialogs/Objetos.h"
-#include "dialogs/Personal.h"
 #include "ui/cielo/Cielo.h"
 #include "ui/cielo/IndicesCielo.h"
 #include "ui/cielo/PanelLeyenda.h"
@@ -183,13 +176,7 @@ TEST(Disposicion, AEscala2TodoCabeEnUnaPantallaDe1080) {
         QCoreApplication::processEvents();
         cabe(f, nombre);
     };
-    { Animar f(d.ctx); forma(f, "Animar"); }
-    { CargaGuar f(d.ctx); forma(f, "CargaGuar"); }
-    { Hora f(d.ctx); forma(f, "Hora"); }
-    { Impresor f(d.ctx); forma(f, "Impresor"); }
-    { Locali f(d.ctx); forma(f, "Locali"); }
-    { Objetos f(d.ctx); forma(f, "Objetos"); }
-    { Personal f(d.ctx); forma(f, "Personal"); }
+    for (const auto& f : pruebas::Formas(d.ctx)) forma(*f, f->metaObject()->className());
     Buscar b(d.ctx);
     forma(b, "Buscar");
     // The solar system's list comes with nine lines of legend.
