@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "../Ayudas.h"
+#include "../ui/Falsos.h"
 #include "app/base/Texto1252.h"
 #include "app/estado/Tiempo.h"
 #include "catalogue/CargaCatalogos.h"
@@ -58,6 +59,22 @@ struct EntornoDialogo {
     vedrano::Lienzo lienzo{800, 600};
     vedrano::ContextoDialogo ctx;
     int redibujos = 0, actualizaciones = 0;
+};
+
+// A form's context with no catalogues and no sky, fake clock and sounds:
+// for the forms whose tests look at the state alone.
+struct ContextoSolo {
+    ContextoSolo() {
+        e.Velocidad = 100;
+        e.Sonido = true;
+    }
+    vedrano::Estado e;
+    vedrano::controles::Contexto controles{e.Sonido, e.Velocidad};
+    vedrano::EstadoVentana ventana;
+    vedrano::Catalogos c;
+    Anota m;
+    Falsos f;
+    vedrano::ContextoDialogo ctx{e, controles, ventana, c, m, nullptr, {}, {}, {}, {}, {}};
 };
 
 // Every form a button of the main window opens, over one context.

@@ -10,6 +10,7 @@
 #include "app/estado/Vista.h"
 #include "../Ayudas.h"
 #include "../ui/EntornoQt.h"
+#include "ContextoPrueba.h"
 #include "../ui/Falsos.h"
 #include "app/base/TablasFijas.h"
 #include "dialogs/Animar.h"
@@ -30,21 +31,12 @@ void EscribeCantidad(controles::Spin* s, const QString& texto) {
 
 void Sal(Animar& a) { Clic(a.botonSalir(), QPoint(16, 16)); }
 
-class FormaAnimar : public ::testing::Test {
+class FormaAnimar : public ::testing::Test, public pruebas::ContextoSolo {
 protected:
     void SetUp() override {
-        e.Velocidad = 100;
-        e.Sonido = true;
         ctx.ArrancaTiempoReal = [this] { ++arranques; };
         ctx.ParaTiempoReal = [this] { ++paradas; };
     }
-    Estado e;
-    controles::Contexto controles{e.Sonido, e.Velocidad};
-    EstadoVentana ventana;
-    Catalogos c;
-    pruebas::Anota m;
-    ContextoDialogo ctx{e, controles, ventana, c, m, nullptr, {}, {}, {}, {}, {}};
-    pruebas::Falsos f;
     int arranques = 0, paradas = 0;
 };
 

@@ -16,6 +16,7 @@
 #include "app/estado/Vista.h"
 #include "../Ayudas.h"
 #include "../ui/EntornoQt.h"
+#include "ContextoPrueba.h"
 #include "../ui/Falsos.h"
 #include "app/base/Texto1252.h"
 #include "astro/Calendario.h"
@@ -109,20 +110,7 @@ TEST(ReglasHora, HorasEn24yAmPm) {
     EXPECT_EQ(CorrigeHora("10:00", false).texto, "10:00 AM");
 }
 
-class FormaHora : public ::testing::Test {
-protected:
-    void SetUp() override {
-        e.Velocidad = 100;
-        e.Sonido = true;
-    }
-    Estado e;
-    controles::Contexto controles{e.Sonido, e.Velocidad};
-    EstadoVentana ventana;
-    Catalogos c;
-    pruebas::Anota m;
-    ContextoDialogo ctx{e, controles, ventana, c, m, nullptr, {}, {}, {}, {}, {}};
-    pruebas::Falsos f;
-};
+class FormaHora : public ::testing::Test, public pruebas::ContextoSolo {};
 
 TEST_F(FormaHora, AnoQueDejaDeSerBisiestoYTreintaYUnoDeFebrero) {
     FijaFechaJuliana(e, c.TablaPlanetas, Juliana(2000, 2, 29, 12, 0));

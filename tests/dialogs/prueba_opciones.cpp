@@ -17,6 +17,7 @@
 #include "app/estado/Vista.h"
 #include "../Ayudas.h"
 #include "../ui/EntornoQt.h"
+#include "ContextoPrueba.h"
 #include "../ui/Falsos.h"
 #include "config/LeeConfiguracion.h"
 #include "config/Preferencias.h"
@@ -38,27 +39,20 @@ namespace {
 using pruebas::CuandoAparezca;
 using pruebas::Pulsa;
 
-class Opciones : public ::testing::Test {
+class Opciones : public ::testing::Test, public pruebas::ContextoSolo {
 protected:
     void SetUp() override {
-        e.Velocidad = 100;
-        ctx = std::make_unique<ContextoDialogo>(ContextoDialogo{
-            e, controles, ventana, c, m, nullptr, [this] { ++actualizaciones; }, [this] { ++dibujos; },
-            [this](int t) { temas.push_back(t); }, {}, {}});
+        e.Sonido = false;
+        ctx.ActualizaCielo = [this] { ++actualizaciones; };
+        ctx.DibujaCielo = [this] { ++dibujos; };
+        ctx.Ayuda = [this](int t) { temas.push_back(t); };
     }
-    Estado e;
-    controles::Contexto controles{e.Sonido, e.Velocidad};
-    EstadoVentana ventana;
-    Catalogos c;
-    pruebas::Anota m;
-    pruebas::Falsos f;
-    std::unique_ptr<ContextoDialogo> ctx;
     int actualizaciones = 0, dibujos = 0;
     std::vector<int> temas;
 };
 
 TEST_F(Opciones, ObjetosCasillasOpcionesYNiveles) {
-    Objetos d(*ctx);
+    Objetos d(ctx);
     ASSERT_NE(d.casilla(QStringLiteral("Galaxias")), nullptr);
     // Every layer of the picture has its box, the Earth's excepted.
     for (const char* t : {"Luz Diurna", "A.R./DEC 15º", "A.R./DEC 30º", "Lim. Constelac.", "Horizonte",
@@ -98,7 +92,7 @@ TEST_F(Opciones, ObjetosCasillasOpcionesYNiveles) {
 }
 
 TEST_F(Opciones, ObjetosNivelesPorFlechasYTecleados) {
-    Objetos d(*ctx);
+    Objetos d(ctx);
     Spin* magnitud = d.spin(32);
     ASSERT_NE(magnitud, nullptr);
     // Held on the upper key for three steps: level 1 becomes 4.
@@ -121,7 +115,7 @@ TEST_F(Opciones, ObjetosNivelesPorFlechasYTecleados) {
 
 TEST_F(Opciones, ObjetosAlSalirRedibuja) {
     CuandoAparezca<Objetos>([](Objetos& d) { Pulsa(d.botonSalir()); });
-    AbreObjetos(*ctx);
+    AbreObjetos(ctx);
     EXPECT_EQ(dibujos, 1);
     EXPECT_FALSE(e.Cambiado);
 
@@ -130,7 +124,7 @@ TEST_F(Opciones, ObjetosAlSalirRedibuja) {
         Pulsa(d.botonAyuda());
         Pulsa(d.botonSalir());
     });
-    AbreObjetos(*ctx);
+    AbreObjetos(ctx);
     EXPECT_EQ(dibujos, 2);
     EXPECT_TRUE(e.Cambiado);
     EXPECT_EQ(e.Capas.Luna, 0);
@@ -138,7 +132,7 @@ TEST_F(Opciones, ObjetosAlSalirRedibuja) {
 }
 
 TEST_F(Opciones, PersonalInterruptoresSelectoresYVelocidad) {
-    Personal d(*ctx);
+    Personal d(ctx);
     Pulsa(d.interruptor(9));
     EXPECT_TRUE(e.Sonido);
     Pulsa(d.interruptor(17));
@@ -169,7 +163,7 @@ TEST_F(Opciones, PersonalInterruptoresSelectoresYVelocidad) {
 
 TEST_F(Opciones, PersonalActualizaSoloSiCambia) {
     CuandoAparezca<Personal>([](Personal& d) { Pulsa(d.botonSalir()); });
-    AbrePersonal(*ctx);
+    AbrePersonal(ctx);
     EXPECT_EQ(actualizaciones, 0);
     EXPECT_FALSE(e.Cambiado);
 
@@ -177,7 +171,7 @@ TEST_F(Opciones, PersonalActualizaSoloSiCambia) {
         Pulsa(d.formatoHora());
         Pulsa(d.botonSalir());
     });
-    AbrePersonal(*ctx);
+    AbrePersonal(ctx);
     EXPECT_EQ(actualizaciones, 1);
     EXPECT_TRUE(e.Cambiado);
     EXPECT_EQ(e.FormatoHora, 2);
@@ -190,7 +184,7 @@ TEST_F(Opciones, PersonalGuardaLasPreferenciasDelPrograma) {
         Pulsa(d.precisionAlta());
         Pulsa(d.botonSalir());
     });
-    AbrePersonal(*ctx);
+    AbrePersonal(ctx);
     EXPECT_TRUE(e.Pref.PrecisionAlta);
     EXPECT_EQ(actualizaciones, 1);
     EXPECT_TRUE(LeePreferencias(e.ArchivoPreferencias).PrecisionAlta);
@@ -202,7 +196,7 @@ TEST_F(Opciones, PersonalGuardaLasPreferenciasDelPrograma) {
         Pulsa(d.precisionAlta());
         Pulsa(d.botonSalir());
     });
-    AbrePersonal(*ctx);
+    AbrePersonal(ctx);
     EXPECT_FALSE(e.Pref.PrecisionAlta);
     ASSERT_EQ(m.vistos.size(), 1u);
     EXPECT_NE(m.vistos[0].texto.find("No se han podido guardar las preferencias"), std::string::npos);
@@ -212,17 +206,17 @@ TEST_F(Opciones, ObjetosGuardaSusInterruptoresComoPreferenciasYNoComoConfiguraci
     QTemporaryDir dir;
     e.ArchivoPreferencias = dir.filePath("vedrano/preferencias.ini").toStdString();
     {
-        Objetos sinVentana(*ctx);  // only the main window's picture has them
+        Objetos sinVentana(ctx);  // only the main window's picture has them
         EXPECT_EQ(sinVentana.casilla(QString::fromUtf8("Estrellas débiles")), nullptr);
     }
-    ctx->preferenciasDibujo = true;
+    ctx.preferenciasDibujo = true;
     CuandoAparezca<Objetos>([](Objetos& d) {
         Pulsa(d.casilla(QString::fromUtf8("Estrellas débiles")));
         Pulsa(d.casilla(QString::fromUtf8("Todos los rótulos")));
         Pulsa(d.casilla(QString::fromUtf8("Todos los rótulos")));
         Pulsa(d.botonSalir());
     });
-    AbreObjetos(*ctx);
+    AbreObjetos(ctx);
     EXPECT_FALSE(e.Cambiado);  // nothing of the configuration changed
     EXPECT_EQ(dibujos, 1);
     EXPECT_TRUE(m.vistos.empty());
@@ -258,7 +252,7 @@ protected:
 };
 
 TEST_F(Configuraciones, ListaSoloLosArchivosDeConfiguracion) {
-    CargaGuar d(*ctx);
+    CargaGuar d(ctx);
     EXPECT_EQ(Lista(d), (QStringList{"A.LS1", "b.ls1", QString::fromUtf8("Plutón.ls1"), QString::fromUtf8("Ωmega.ls1"),
                                      QString::fromUtf8("東京.ls1")}));
     d.lista()->setCurrentRow(2);
@@ -266,7 +260,7 @@ TEST_F(Configuraciones, ListaSoloLosArchivosDeConfiguracion) {
 }
 
 TEST_F(Configuraciones, NombresFueraDeLaPaginaDeCodigos) {
-    CargaGuar d(*ctx);
+    CargaGuar d(ctx);
     FijaFechaJuliana(e, c.TablaPlanetas, 2451545.0);
     d.nombre()->setText(QString::fromUtf8("Ωmega-copia"));
     Pulsa(d.guardar());
@@ -280,7 +274,7 @@ TEST_F(Configuraciones, NombresFueraDeLaPaginaDeCodigos) {
 }
 
 TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
-    CargaGuar d(*ctx);
+    CargaGuar d(ctx);
     FijaFechaJuliana(e, c.TablaPlanetas, 2451545.0);
     e.Capas.Galax = 1;
     d.nombre()->setText(QStringLiteral("Prueba"));
@@ -315,7 +309,7 @@ TEST_F(Configuraciones, GuardarCargarYSobrescribir) {
 }
 
 TEST_F(Configuraciones, NombreVacioYCarpetaSinEscritura) {
-    CargaGuar d(*ctx);
+    CargaGuar d(ctx);
     d.nombre()->setText(QStringLiteral("   "));
     for (Pulsador* b : {d.cargar(), d.guardar(), d.borrar()}) Pulsa(b);
     EXPECT_EQ(m.vistos.size(), 3u);
@@ -332,7 +326,7 @@ TEST_F(Configuraciones, NombreVacioYCarpetaSinEscritura) {
 }
 
 TEST_F(Configuraciones, BorrarPideConfirmacion) {
-    CargaGuar d(*ctx);
+    CargaGuar d(ctx);
     d.nombre()->setText(QStringLiteral("b"));
     m.respuesta = 0;
     Pulsa(d.borrar());
