@@ -12,15 +12,13 @@
 #include <utility>
 #include <vector>
 
-#include "../Ayudas.h"
+#include "CarpetaCatalogos.h"
 #include "catalogue/CargaCatalogos.h"
 
 namespace {
 
 using namespace vedrano;
 namespace fs = std::filesystem;
-
-using Avisos = pruebas::Anota;
 
 // One record's bytes, field by field, little-endian.
 struct Bytes {
@@ -44,24 +42,7 @@ struct Bytes {
     Bytes& Direccion() { return S(0).S(0).S(1); }
 };
 
-class Carpeta : public ::testing::Test {
-protected:
-    pruebas::CarpetaPrueba carpeta{"vedrano_carga"};
-    const fs::path& dir = carpeta.ruta;
-    void Escribe(const std::string& nombre, const std::string& bytes) {
-        std::ofstream(dir / nombre, std::ios::binary) << bytes;
-    }
-    void CopiaDatos() {
-        for (const auto& f : fs::directory_iterator(VEDRANO_DATOS))
-            if (f.path().extension() == ".DAT") fs::copy_file(f.path(), dir / f.path().filename());
-    }
-    Catalogos& Carga() {
-        CargaCatalogos(dir.string(), *c, avisos);
-        return *c;
-    }
-    std::unique_ptr<Catalogos> c = std::make_unique<Catalogos>();
-    Avisos avisos;
-};
+using Carpeta = pruebas::CarpetaCatalogos;
 
 float Horas(double h, double m, double s) { return static_cast<float>((h + m / 60 + s / 3600) * 15 * M_PI / 180); }
 float Grados(double g, double m, double s) { return static_cast<float>((g + m / 60 + s / 3600) * M_PI / 180); }
@@ -192,7 +173,7 @@ TEST_F(Carpeta, FicherosCortosOEstropeadosNoRompenNada) {
 
 TEST(CargaDatos, LosDatosDelProgramaCarganSinAvisos) {
     auto c = std::make_unique<Catalogos>();
-    Avisos avisos;
+    pruebas::Anota avisos;
     CargaCatalogos(VEDRANO_DATOS, *c, avisos);
     EXPECT_TRUE(avisos.vistos.empty());
     const auto& l = c->Listas;

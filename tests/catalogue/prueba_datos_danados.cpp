@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "../Ayudas.h"
+#include "CarpetaCatalogos.h"
 #include "../sky/CapasApagadas.h"
 #include "astro/Coordenadas.h"
 #include "catalogue/CargaCatalogos.h"
@@ -21,24 +21,9 @@ namespace {
 using namespace vedrano;
 namespace fs = std::filesystem;
 
-class DatosDanados : public ::testing::Test {
+class DatosDanados : public pruebas::CarpetaCatalogos {
 protected:
-    pruebas::CarpetaPrueba carpeta{"vedrano_danados"};
-    const fs::path& dir = carpeta.ruta;
-    void SetUp() override {
-        for (const auto& f : fs::directory_iterator(VEDRANO_DATOS))
-            if (f.path().extension() == ".DAT") fs::copy_file(f.path(), dir / f.path().filename());
-    }
-    void Escribe(const std::string& nombre, const std::string& bytes) {
-        fs::remove_all(dir / nombre);
-        std::ofstream(dir / nombre, std::ios::binary) << bytes;
-    }
-    Catalogos& Carga() {
-        CargaCatalogos(dir.string(), *c, avisos);
-        return *c;
-    }
-    std::unique_ptr<Catalogos> c = std::make_unique<Catalogos>();
-    pruebas::Anota avisos;
+    void SetUp() override { CopiaDatos(); }
 };
 
 // A view with every layer that walks a count table on, at the deepest level.
