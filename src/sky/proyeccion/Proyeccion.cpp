@@ -1,6 +1,7 @@
 #include "sky/proyeccion/Proyeccion.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "app/base/Aritmetica.h"
@@ -209,9 +210,13 @@ void ConstruyeMatriz(const DerivadosRotacion& r, int desde, bool precesion, doub
 // The chain precession - sidereal rotation - latitude - turn - tilt as one
 // matrix, keyed by all of its angles: the stars then cost nine products
 // each.
+std::array<double, 8> ClavesCadena(const Estado& e) {
+    return {e.PrecZeta, e.PrecZ, e.PrecTheta, e.TiempoSidereo, e.Latitud, e.DireccionGirada,
+            e.Elevacion, e.Pref.PrecisionAlta ? e.FechaJuliana : -1.0};
+}
+
 bool CadenaVigente(const DerivadosRotacion& r, const Estado& e, bool precesa) {
-    const double claves[8] = {e.PrecZeta, e.PrecZ, e.PrecTheta, e.TiempoSidereo, e.Latitud, e.DireccionGirada,
-                              e.Elevacion, e.Pref.PrecisionAlta ? e.FechaJuliana : -1.0};
+    const std::array<double, 8> claves = ClavesCadena(e);
     bool igual = r.completaLista && r.conPrecesion == precesa;
     for (int i = 0; i < 8 && igual; ++i) igual = r.claves[i] == claves[i];
     return igual;
@@ -224,9 +229,8 @@ void LlenaCadena(DerivadosRotacion& r, const Estado& e, bool precesa) {
     if (!HorizonteVigente(r, e)) LlenaHorizonte(r, e);
     if (!VistaVigente(r, e)) LlenaVista(r, e);
     ConstruyeMatriz(r, 0, precesa, r.m);
-    const double claves[8] = {e.PrecZeta, e.PrecZ, e.PrecTheta, e.TiempoSidereo, e.Latitud, e.DireccionGirada,
-                              e.Elevacion, e.Pref.PrecisionAlta ? e.FechaJuliana : -1.0};
-    std::copy(claves, claves + 8, r.claves);
+    const std::array<double, 8> claves = ClavesCadena(e);
+    std::copy(claves.begin(), claves.end(), r.claves);
     r.conPrecesion = precesa;
     r.completaLista = true;
 }
